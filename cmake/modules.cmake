@@ -1,9 +1,14 @@
-# kestrune_module(<folder below src> [DEPENDS <targets>])
+# kestrune_module(<folder below src> [NONRECURSIVE] [DEPENDS <targets>])
 # One static library a folder; "host/model" becomes the target kestrune_host_model.
+# NONRECURSIVE leaves the folders below to modules of their own.
 function(kestrune_module folder)
-  cmake_parse_arguments(ARG "" "" "DEPENDS" ${ARGN})
+  cmake_parse_arguments(ARG "NONRECURSIVE" "" "DEPENDS" ${ARGN})
   string(REPLACE "/" "_" suffix ${folder})
-  file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+  if(ARG_NONRECURSIVE)
+    file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+  else()
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+  endif()
   if(sources)
     add_library(kestrune_${suffix} STATIC ${sources})
     target_link_libraries(kestrune_${suffix} PUBLIC ${ARG_DEPENDS} PRIVATE kestrune_flags)
