@@ -17,9 +17,7 @@ struct Position {
     std::int32_t column = 1;
 
     auto operator<=>(const Position&) const = default;
-    [[nodiscard]] bool on_sheet() const {
-        return row >= 1 && row <= max_rows && column >= 1 && column <= max_columns;
-    }
+    [[nodiscard]] bool on_sheet() const { return row >= 1 && row <= max_rows && column >= 1 && column <= max_columns; }
 };
 
 // A rectangle of cells, 1-based, both corners inside.
