@@ -1,0 +1,166 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/model/Cell.h"
+#include "host/model/ConditionalFormat.h"
+#include "host/model/RowsAndColumns.h"
+#include "host/model/SheetView.h"
+
+namespace kestrune::host {
+
+class Workbook;
+
+// A cell's content as it goes in and comes out; the string is held, not its number.
+struct CellContent {
+    CellKind kind = CellKind::Blank;
+    double number = 0;
+    bool boolean = false;
+    CellError error = CellError::Null;
+    std::string text;
+
+    static CellContent blank() { return {}; }
+    static CellContent of(double number);
+    static CellContent of(bool boolean);
+    static CellContent of(CellError error);
+    static CellContent of(std::string text);
+};
+
+// The cells of one column from top to bottom, sorted by row, at most one a row.
+struct CellColumn {
+    std::vector<Cell> cells;
+
+    [[nodiscard]] const Cell* find(std::int32_t row) const;
+    [[nodiscard]] Cell* find(std::int32_t row);
+    Cell& at_or_new(std::int32_t row, StyleId style_when_new);  // keeps the order; appending is cheap
+};
+
+enum class SheetKind : std::uint8_t { Worksheet, Chartsheet, Other };
+enum class Visibility : std::uint8_t { Visible, Hidden, VeryHidden };
+
+// What the sheet allows while protected (ECMA-376 18.3.1.85); the password stays in the file.
+struct SheetProtection {
+    bool on = false;
+    bool format_cells = false;  // true: allowed
+    bool format_columns = false;
+    bool format_rows = false;
+    bool insert_rows = false;
+    bool insert_columns = false;
+    bool delete_rows = false;
+    bool delete_columns = false;
+};
+
+// One sheet of a workbook. Its content is read from the file at the first touch.
+class Sheet {
+  public:
+    Sheet(Workbook& workbook, std::string name, SheetKind kind);
+    Sheet(const Sheet&) = delete;
+    Sheet& operator=(const Sheet&) = delete;
+
+    [[nodiscard]] Workbook& workbook() const { return workbook_; }
+    [[nodiscard]] const std::string& name() const { return name_; }
+    [[nodiscard]] SheetKind kind() const { return kind_; }
+    Visibility visibility = Visibility::Visible;
+
+    // The reader fills the sheet through these; loader runs once, at the first need of any content.
+    void load_with(std::function<void(Sheet&)> loader) { loader_ = std::move(loader); }
+    [[nodiscard]] bool loaded() const { return !loader_; }
+    void ensure_loaded();
+    Cell& append_loaded(
+        std::int32_t column,
+        const Cell& cell);  // rows ascending within each column, else the column is sorted after loading
+    std::uint32_t add_loaded_formula(Formula formula);  // the number for Cell::formula
+    std::map<std::int32_t, RowFormat>& loaded_rows() { return rows_; }
+
+    // Cells. Reading never creates; 1-based positions on the sheet.
+    [[nodiscard]] const Cell* find(Position at);
+    [[nodiscard]] StyleId style_at(Position at);        // the cell's, else its row's, else its column's
+    [[nodiscard]] CellContent content_at(Position at);  // the cached value of a formula
+    [[nodiscard]] std::string formula_at(
+        Position at);  // A1, without "="; empty when there is none; a shared one shifted to its cell
+    [[nodiscard]] const Formula* formula_record(Position at);
+    [[nodiscard]] Area used_area();  // cells and formatted rows, as UsedRange; A1 when empty
+    [[nodiscard]] std::int64_t stored_cells();
+    // Stored cells of an area, row by row when `by_rows`, else column by column (faster).
+    void visit_cells(const Area& area, bool by_rows, const std::function<void(Position, const Cell&)>& visit);
+
+    // Content. Writing marks the part changed; a formula loses its cached value.
+    void set_content(Position at, const CellContent& content);
+    void set_formula(Position at, std::string text);  // without "="; a checked formula
+    void set_array_formula(const Area& reach, std::string text);
+    void clear_content(const Area& area);
+
+    // Formats. `map` is called once for every distinct format in the area and answers its successor.
+    // Whole columns, rows and sheets change their column and row formats, and cells only where they
+    // are stored or where a row's format crosses a column's.
+    void restyle(const Area& area, const std::function<StyleId(StyleId)>& map);
+    // The same with a border's place in mind: positions on the area's rim map through other functions;
+    // edges is a bit set of 1 left, 2 top, 4 right, 8 bottom for a cell on that rim.
+    void restyle_by_edge(const Area& area, const std::function<StyleId(StyleId, unsigned edges)>& map);
+    // The distinct formats that an area shows, blank cells included, each once, that of its top-left cell first.
+    [[nodiscard]] std::vector<StyleId> styles_in(const Area& area);
+
+    // Rows and columns. Heights in points, widths in characters of the Normal font's widest digit as a
+    // user sees them (padding taken off).
+    [[nodiscard]] double row_height(std::int32_t row);                          // 0 when hidden
+    void set_row_height(std::int32_t first, std::int32_t last, double points);  // rounded to pixels; 0 hides
+    [[nodiscard]] double column_width(std::int32_t column);
+    void set_column_width(std::int32_t first, std::int32_t last, double characters);
+    [[nodiscard]] const RowFormat* row_format(std::int32_t row);  // null for a plain row
+    void change_rows(std::int32_t first, std::int32_t last, const std::function<void(RowFormat&)>& change);
+    [[nodiscard]] const std::map<std::int32_t, RowFormat>& row_formats();
+    [[nodiscard]] ColumnRuns& columns();
+    double default_row_height = 15;      // points
+    double default_column_width = -1;    // characters as stored; negative: 8 characters and padding (base_column_width)
+    std::int32_t base_column_width = 8;  // characters
+    bool zero_height = false;            // rows are hidden unless they say otherwise
+    bool summary_below = true;
+    bool summary_right = true;
+    bool sheet_format_changed = false;
+
+    // Merged areas; they never overlap.
+    [[nodiscard]] const std::vector<Area>& merges();
+    std::vector<Area>& loaded_merges() { return merges_; }
+    void merge(const Area& area);    // keeps the top-left content only
+    void unmerge(const Area& area);  // splits every merged area that the area touches
+    [[nodiscard]] std::optional<Area> merge_at(Position at);
+
+    [[nodiscard]] std::vector<ConditionalFormat>& conditional_formats();
+    void delete_conditional_formats(const Area& area);  // from these cells only; other cells keep theirs
+    bool conditional_formats_changed = false;
+
+    SheetView view;  // read with the sheet
+    SheetProtection protection;
+    std::optional<Color> tab_color;
+
+    // Whether the sheet's part must be written anew.
+    [[nodiscard]] bool changed() const;
+    bool cells_changed = false;
+    bool rows_changed = false;
+    bool merges_changed = false;
+
+    // All columns that hold cells; for readers and writers of whole sheets. Index 0 is column 1.
+    [[nodiscard]] const std::vector<std::unique_ptr<CellColumn>>& cell_columns();
+    [[nodiscard]] const std::vector<Formula>& formulas() const { return formulas_; }
+
+  private:
+    Workbook& workbook_;
+    std::string name_;
+    SheetKind kind_;
+    std::function<void(Sheet&)> loader_;
+    std::vector<std::unique_ptr<CellColumn>> cells_;
+    std::vector<Formula> formulas_;
+    std::map<std::int32_t, RowFormat> rows_;
+    ColumnRuns columns_;
+    std::vector<Area> merges_;
+    std::vector<ConditionalFormat> conditional_formats_;
+};
+
+}  // namespace kestrune::host

@@ -1,0 +1,94 @@
+#pragma once
+
+#include <cstdint>
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+#include "host/model/Format.h"
+
+namespace kestrune::host {
+
+using StyleId = std::uint32_t;  // a position in StyleTable's formats; 0 is the workbook's default cell
+
+// An append-only list in which equal entries can be found again. Entries that come from the file keep
+// their positions, twins included; intern() gives the first equal entry or appends.
+template <class T>
+class InternedList {
+  public:
+    [[nodiscard]] std::uint32_t size() const { return static_cast<std::uint32_t>(items_.size()); }
+    [[nodiscard]] const T& operator[](std::uint32_t position) const { return items_[position]; }
+
+    std::uint32_t append(T item);  // without looking for an equal one
+    std::uint32_t intern(const T& item);
+
+  private:
+    std::deque<T> items_;  // references stay good while it grows
+    std::unordered_multimap<std::size_t, std::uint32_t> by_hash_;
+};
+
+// A differential format: the components that a conditional format or a table style puts over a
+// cell's own (ECMA-376 18.8.14). Entries that come from the file also keep their XML in `source`.
+struct DifferentialFormat {
+    std::optional<bool> bold, italic, strike;
+    std::optional<Underline> underline;
+    std::optional<Color> font_color;
+    std::optional<Fill> fill;
+    std::optional<Border> border;
+    std::optional<std::string> number_format;
+    std::string source;
+
+    bool operator==(const DifferentialFormat&) const = default;
+};
+
+// A named cell style ("Normal", "Percent"): name and the format it stands for.
+struct NamedStyle {
+    std::string name;
+    CellFormat format;
+};
+
+// All formats of a workbook. Formats are never changed, only added; a cell's format changes by
+// pointing at another one.
+class StyleTable {
+  public:
+    InternedList<Font> fonts;
+    InternedList<Fill> fills;
+    InternedList<Border> borders;
+    InternedList<CellFormat> formats;
+    InternedList<DifferentialFormat> differentials;
+    std::vector<NamedStyle>
+        named_styles;  // in the order of cellStyleXfs, so that CellFormat::named_style is its position
+
+    // A new workbook's table: one default format (Calibri 11), the two fills every file begins with.
+    static StyleTable defaults();
+
+    // Number formats are known by the number that the file gives them; built-in ones (below 164) need
+    // no entry. Codes are those of the object model (en-US).
+    [[nodiscard]] const std::string& number_format(std::uint32_t number) const;  // "General" for an unknown one
+    std::uint32_t intern_number_format(std::string_view code);  // the built-in or custom number, new from 164 on
+    void load_number_format(std::uint32_t number, std::string code);
+    [[nodiscard]] const std::unordered_map<std::uint32_t, std::string>& custom_number_formats() const {
+        return number_formats_;
+    }
+
+    // The pieces of a format.
+    [[nodiscard]] const Font& font_of(StyleId id) const { return fonts[formats[id].font]; }
+    [[nodiscard]] const Fill& fill_of(StyleId id) const { return fills[formats[id].fill]; }
+    [[nodiscard]] const Border& border_of(StyleId id) const { return borders[formats[id].border]; }
+
+    // The format that differs from `base` by one change to one piece; interned.
+    StyleId with_font(StyleId base, const std::function<void(Font&)>& change);
+    StyleId with_fill(StyleId base, const std::function<void(Fill&)>& change);
+    StyleId with_border(StyleId base, const std::function<void(Border&)>& change);
+    StyleId with_format(StyleId base, const std::function<void(CellFormat&)>& change);
+
+  private:
+    std::unordered_map<std::uint32_t, std::string> number_formats_;
+    std::unordered_map<std::string, std::uint32_t> numbers_by_code_;
+};
+
+}  // namespace kestrune::host

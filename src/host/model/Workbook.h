@@ -1,0 +1,80 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "host/model/Sheet.h"
+#include "host/model/StringTable.h"
+#include "host/model/StyleTable.h"
+
+namespace kestrune::host {
+
+// The 56 colours that Workbook.Colors numbers, BGR.
+using Palette = std::array<std::uint32_t, 56>;
+const Palette& default_palette();
+
+// The theme's twelve colours (BGR) in the order of Color::theme, and its fonts.
+struct Theme {
+    std::array<std::uint32_t, 12> colors;
+    std::string major_font = "Cambria";
+    std::string minor_font = "Calibri";
+
+    static Theme office();
+};
+
+struct DefinedName {
+    std::string name;
+    std::string refers_to;              // without "="
+    std::optional<std::int32_t> sheet;  // 0-based, of a name that one sheet owns
+    bool hidden = false;
+    std::string comment;
+    std::string source;  // the element as the file has it; empty for a name of ours
+};
+
+// A workbook in memory. Knows nothing of files; what reads one fills it and keeps what must be written back.
+class Workbook {
+  public:
+    Workbook();
+    ~Workbook();
+    Workbook(const Workbook&) = delete;
+    Workbook& operator=(const Workbook&) = delete;
+
+    std::string name = "Book1";  // file name without its folder
+    std::string path;            // folder without a separator at its end; empty for a new workbook
+
+    StyleTable styles;
+    StringTable strings;
+    Palette palette = default_palette();
+    bool palette_changed = false;
+    Theme theme = Theme::office();
+    std::vector<DefinedName> names;
+    bool names_changed = false;
+    bool date1904 = false;
+    bool structure_protected = false;
+    bool recalculate_on_load = false;  // a formula was written: its value is for the next program that calculates
+    std::int32_t active_sheet = 0;     // 0-based
+    bool active_sheet_changed = false;
+
+    [[nodiscard]] const std::vector<std::unique_ptr<Sheet>>& sheets() const { return sheets_; }
+    Sheet& add_sheet(std::string sheet_name, SheetKind kind = SheetKind::Worksheet);
+    [[nodiscard]] Sheet* sheet(std::string_view sheet_name) const;  // whatever its case; null when there is none
+
+    // What a colour looks like, BGR: theme and tint worked out, palette entries looked up.
+    // Automatic and absent colours give `automatic`.
+    [[nodiscard]] std::uint32_t rgb_of(const Color& color, std::uint32_t automatic) const;
+    // The nearest palette entry, 1..56, of a BGR colour; the first of equals.
+    [[nodiscard]] std::int32_t nearest_index(std::uint32_t bgr) const;
+
+    // Pixels of the widest digit of the Normal style's font at 96 dpi; column widths are counted in it.
+    [[nodiscard]] std::int32_t digit_pixels() const;
+
+  private:
+    std::vector<std::unique_ptr<Sheet>> sheets_;
+};
+
+}  // namespace kestrune::host
