@@ -1,0 +1,60 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "excel/Range.h"
+#include "excel/Window.h"
+#include "excel/Workbooks.h"
+
+namespace kestrune::excel {
+
+class Application : public Facade<Application> {
+  public:
+    static constexpr std::string_view class_name = "Application";
+    static constexpr auto members = std::to_array<MemberRow>({
+        {"ActiveCell", Access::get},
+        {"ActiveSheet", Access::get},
+        {"ActiveWindow", Access::get},
+        {"ActiveWorkbook", Access::get},
+        {"Calculation", Access::get_put},
+        {"Goto", Access::method, "Reference Scroll"},
+        {"Name", Access::get},
+        {"Run", Access::method,
+         "Macro Arg1 Arg2 Arg3 Arg4 Arg5 Arg6 Arg7 Arg8 Arg9 Arg10 Arg11 Arg12 Arg13 Arg14 Arg15 Arg16 Arg17 Arg18 "
+         "Arg19 Arg20 Arg21 Arg22 Arg23 Arg24 Arg25 Arg26 Arg27 Arg28 Arg29 Arg30"},
+        {"ScreenUpdating", Access::get_put},
+        {"Selection", Access::get},
+        {"Version", Access::get},
+        {"WindowState", Access::get_put},
+        {"Workbooks", Access::get},
+    });
+    using Facade::Facade;
+
+    // Nothing when no worksheet is active.
+    [[nodiscard]] Range ActiveCell() const { return get<Range>("ActiveCell"); }
+    // A worksheet, a chart or Nothing.
+    [[nodiscard]] ObjectRef ActiveSheet() const { return get<ObjectRef>("ActiveSheet"); }
+    [[nodiscard]] Window ActiveWindow() const { return get<Window>("ActiveWindow"); }
+    [[nodiscard]] Workbook ActiveWorkbook() const { return get<Workbook>("ActiveWorkbook"); }
+    [[nodiscard]] std::int32_t Calculation() const { return get<std::int32_t>("Calculation"); }  // XlCalculation
+    void Calculation(std::int32_t mode) const { put("Calculation", mode); }
+    void Goto(const Range& reference) const { call("Goto", reference.object()); }
+    [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
+    // Runs a macro of an open workbook ("mPublic.Init").
+    template <class... A>
+    Value Run(std::string_view macro, A&&... arguments) const {
+        return call("Run", macro, std::forward<A>(arguments)...);
+    }
+    [[nodiscard]] bool ScreenUpdating() const { return get<bool>("ScreenUpdating"); }
+    void ScreenUpdating(bool updating) const { put("ScreenUpdating", updating); }
+    // A range, another object (a chart, a shape) or Nothing.
+    [[nodiscard]] ObjectRef Selection() const { return get<ObjectRef>("Selection"); }
+    [[nodiscard]] std::string Version() const { return get<std::string>("Version"); }
+    [[nodiscard]] std::int32_t WindowState() const { return get<std::int32_t>("WindowState"); }  // XlWindowState
+    void WindowState(std::int32_t state) const { put("WindowState", state); }
+    [[nodiscard]] excel::Workbooks Workbooks() const { return get<excel::Workbooks>("Workbooks"); }
+};
+
+}  // namespace kestrune::excel

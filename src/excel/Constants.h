@@ -1,0 +1,69 @@
+#pragma once
+
+#include <cstdint>
+
+// Excel's constants under Excel's own spelling and values, those that we use.
+namespace kestrune::excel {
+
+inline constexpr std::int32_t xlNone = -4142;
+
+// Horizontal and vertical alignment.
+inline constexpr std::int32_t xlGeneral = 1;
+inline constexpr std::int32_t xlLeft = -4131;
+inline constexpr std::int32_t xlCenter = -4108;
+inline constexpr std::int32_t xlRight = -4152;
+inline constexpr std::int32_t xlFill = 5;
+inline constexpr std::int32_t xlJustify = -4130;
+inline constexpr std::int32_t xlCenterAcrossSelection = 7;
+inline constexpr std::int32_t xlTop = -4160;
+inline constexpr std::int32_t xlBottom = -4107;
+
+// XlOrientation
+inline constexpr std::int32_t xlHorizontal = -4128;
+
+// XlUnderlineStyle
+inline constexpr std::int32_t xlUnderlineStyleNone = -4142;
+inline constexpr std::int32_t xlUnderlineStyleSingle = 2;
+inline constexpr std::int32_t xlUnderlineStyleDouble = -4119;
+inline constexpr std::int32_t xlUnderlineStyleSingleAccounting = 4;
+inline constexpr std::int32_t xlUnderlineStyleDoubleAccounting = 5;
+
+// XlLineStyle
+inline constexpr std::int32_t xlContinuous = 1;
+inline constexpr std::int32_t xlDash = -4115;
+inline constexpr std::int32_t xlDouble = -4119;
+
+// XlBorderWeight
+inline constexpr std::int32_t xlHairline = 1;
+inline constexpr std::int32_t xlThin = 2;
+inline constexpr std::int32_t xlMedium = -4138;
+inline constexpr std::int32_t xlThick = 4;
+
+// XlBordersIndex
+inline constexpr std::int32_t xlDiagonalDown = 5;
+inline constexpr std::int32_t xlDiagonalUp = 6;
+inline constexpr std::int32_t xlEdgeLeft = 7;
+inline constexpr std::int32_t xlEdgeTop = 8;
+inline constexpr std::int32_t xlEdgeBottom = 9;
+inline constexpr std::int32_t xlEdgeRight = 10;
+inline constexpr std::int32_t xlInsideVertical = 11;
+inline constexpr std::int32_t xlInsideHorizontal = 12;
+
+// XlColorIndex
+inline constexpr std::int32_t xlColorIndexAutomatic = -4105;
+
+// XlFormatConditionType and XlFormatConditionOperator
+inline constexpr std::int32_t xlCellValue = 1;
+inline constexpr std::int32_t xlBetween = 1;
+inline constexpr std::int32_t xlGreater = 5;
+inline constexpr std::int32_t xlLess = 6;
+
+// XlCalculation
+inline constexpr std::int32_t xlCalculationManual = -4135;
+inline constexpr std::int32_t xlCalculationAutomatic = -4105;
+
+// XlWindowState
+inline constexpr std::int32_t xlMaximized = -4137;
+inline constexpr std::int32_t xlNormal = -4143;
+
+}  // namespace kestrune::excel

@@ -1,0 +1,135 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "excel/Areas.h"
+#include "excel/Borders.h"
+#include "excel/Font.h"
+#include "excel/FormatConditions.h"
+#include "excel/Interior.h"
+
+namespace kestrune::excel {
+
+class Worksheet;
+
+// One cell, a rectangle of cells, or several rectangles. A reading that gives back a Value answers
+// Null when the cells differ.
+class Range : public Facade<Range> {
+  public:
+    static constexpr std::string_view class_name = "Range";
+    static constexpr auto members = std::to_array<MemberRow>({
+        {"Address", Access::get, "RowAbsolute ColumnAbsolute ReferenceStyle External RelativeTo"},
+        {"Areas", Access::get},
+        {"Borders", Access::get},
+        {"Cells", Access::get},
+        {"Column", Access::get},
+        {"ColumnWidth", Access::get_put},
+        {"Columns", Access::get},
+        {"Count", Access::get},
+        {"CountLarge", Access::get},
+        {"EntireColumn", Access::get},
+        {"EntireRow", Access::get},
+        {"Font", Access::get},
+        {"FormatConditions", Access::get},
+        {"Formula", Access::get_put},
+        {"FormulaR1C1", Access::get_put},
+        {"HasFormula", Access::get},
+        {"Hidden", Access::get_put},
+        {"HorizontalAlignment", Access::get_put},
+        {"IndentLevel", Access::get_put},
+        {"Interior", Access::get},
+        {"Item", Access::get, "RowIndex! ColumnIndex"},
+        {"MergeCells", Access::get_put},
+        {"NumberFormat", Access::get_put},
+        {"Orientation", Access::get_put},
+        {"OutlineLevel", Access::get_put},
+        {"Parent", Access::get},
+        {"PrefixCharacter", Access::get},
+        {"Row", Access::get},
+        {"RowHeight", Access::get_put},
+        {"Rows", Access::get},
+        {"Select", Access::method},
+        {"ShrinkToFit", Access::get_put},
+        {"Text", Access::get},
+        {"Value", Access::get_put, "RangeValueDataType"},
+        {"Value2", Access::get_put},
+        {"VerticalAlignment", Access::get_put},
+        {"Worksheet", Access::get},
+        {"WrapText", Access::get_put},
+    });
+    using Facade::Facade;
+
+    // Whether an object is a range: a selection may as well be a chart or a shape.
+    static bool is(const ObjectRef& object) { return object && object->type_name() == class_name; }
+
+    // "$B$2:$C$5", several areas parted by commas.
+    [[nodiscard]] std::string Address() const { return get<std::string>("Address"); }
+    // In the reference style asked for (xlA1, xlR1C1); external puts "[Book]Sheet!" in front.
+    [[nodiscard]] std::string Address(bool row_absolute, bool column_absolute, std::int32_t reference_style,
+                                      bool external) const {
+        return get<std::string>("Address", row_absolute, column_absolute, reference_style, external);
+    }
+    [[nodiscard]] excel::Areas Areas() const { return get<excel::Areas>("Areas"); }
+    [[nodiscard]] excel::Borders Borders() const { return get<excel::Borders>("Borders"); }
+    [[nodiscard]] Border Borders(std::int32_t index) const { return Borders().Item(index); }  // XlBordersIndex
+    [[nodiscard]] Range Cells() const { return get<Range>("Cells"); }
+    // One cell, counted from 1 from the top-left cell of the first area.
+    [[nodiscard]] Range Cells(std::int32_t row, std::int32_t column) const { return Cells().Item(row, column); }
+    [[nodiscard]] std::int32_t Column() const { return get<std::int32_t>("Column"); }  // from 1
+    [[nodiscard]] excel::Value ColumnWidth() const { return get("ColumnWidth"); }      // characters of the Normal font
+    void ColumnWidth(excel::Value value) const { put("ColumnWidth", std::move(value)); }
+    [[nodiscard]] Range Columns() const { return get<Range>("Columns"); }
+    // Fails from 2,147,483,648 cells on.
+    [[nodiscard]] std::int32_t Count() const { return get<std::int32_t>("Count"); }
+    [[nodiscard]] double CountLarge() const { return get<double>("CountLarge"); }
+    [[nodiscard]] Range EntireColumn() const { return get<Range>("EntireColumn"); }
+    [[nodiscard]] Range EntireRow() const { return get<Range>("EntireRow"); }
+    [[nodiscard]] excel::Font Font() const { return get<excel::Font>("Font"); }
+    [[nodiscard]] excel::FormatConditions FormatConditions() const {
+        return get<excel::FormatConditions>("FormatConditions");
+    }
+    [[nodiscard]] excel::Value Formula() const { return get("Formula"); }  // a 2-D array for several cells
+    void Formula(excel::Value value) const { put("Formula", std::move(value)); }
+    [[nodiscard]] excel::Value FormulaR1C1() const { return get("FormulaR1C1"); }
+    void FormulaR1C1(excel::Value value) const { put("FormulaR1C1", std::move(value)); }
+    [[nodiscard]] excel::Value HasFormula() const { return get("HasFormula"); }
+    [[nodiscard]] excel::Value Hidden() const { return get("Hidden"); }  // whole rows or whole columns only
+    void Hidden(excel::Value value) const { put("Hidden", std::move(value)); }
+    [[nodiscard]] excel::Value HorizontalAlignment() const { return get("HorizontalAlignment"); }
+    void HorizontalAlignment(excel::Value value) const { put("HorizontalAlignment", std::move(value)); }
+    [[nodiscard]] excel::Value IndentLevel() const { return get("IndentLevel"); }
+    void IndentLevel(excel::Value value) const { put("IndentLevel", std::move(value)); }
+    [[nodiscard]] excel::Interior Interior() const { return get<excel::Interior>("Interior"); }
+    [[nodiscard]] Range Item(std::int32_t row, std::int32_t column) const { return get<Range>("Item", row, column); }
+    [[nodiscard]] excel::Value MergeCells() const { return get("MergeCells"); }
+    void MergeCells(excel::Value value) const { put("MergeCells", std::move(value)); }
+    [[nodiscard]] excel::Value NumberFormat() const { return get("NumberFormat"); }
+    void NumberFormat(excel::Value value) const { put("NumberFormat", std::move(value)); }
+    [[nodiscard]] excel::Value Orientation() const { return get("Orientation"); }  // degrees or XlOrientation
+    void Orientation(excel::Value value) const { put("Orientation", std::move(value)); }
+    [[nodiscard]] excel::Value OutlineLevel() const { return get("OutlineLevel"); }  // 1 to 8; of a row or a column
+    void OutlineLevel(excel::Value value) const { put("OutlineLevel", std::move(value)); }
+    [[nodiscard]] excel::Worksheet Parent() const;
+    [[nodiscard]] excel::Value PrefixCharacter() const { return get("PrefixCharacter"); }
+    [[nodiscard]] std::int32_t Row() const { return get<std::int32_t>("Row"); }  // from 1
+    [[nodiscard]] excel::Value RowHeight() const { return get("RowHeight"); }    // points
+    void RowHeight(excel::Value value) const { put("RowHeight", std::move(value)); }
+    [[nodiscard]] Range Rows() const { return get<Range>("Rows"); }
+    void Select() const { call("Select"); }
+    [[nodiscard]] excel::Value ShrinkToFit() const { return get("ShrinkToFit"); }
+    void ShrinkToFit(excel::Value value) const { put("ShrinkToFit", std::move(value)); }
+    [[nodiscard]] excel::Value Text() const { return get("Text"); }    // as the sheet shows it
+    [[nodiscard]] excel::Value Value() const { return get("Value"); }  // a 2-D array for several cells
+    void Value(excel::Value value) const { put("Value", std::move(value)); }
+    [[nodiscard]] excel::Value Value2() const { return get("Value2"); }  // dates as their serials
+    void Value2(excel::Value value) const { put("Value2", std::move(value)); }
+    [[nodiscard]] excel::Value VerticalAlignment() const { return get("VerticalAlignment"); }
+    void VerticalAlignment(excel::Value value) const { put("VerticalAlignment", std::move(value)); }
+    [[nodiscard]] excel::Worksheet Worksheet() const;
+    [[nodiscard]] excel::Value WrapText() const { return get("WrapText"); }
+    void WrapText(excel::Value value) const { put("WrapText", std::move(value)); }
+};
+
+}  // namespace kestrune::excel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+#include "excel/Names.h"
+#include "excel/Worksheets.h"
+
+namespace kestrune::excel {
+
+class Workbook : public Facade<Workbook> {
+  public:
+    static constexpr std::string_view class_name = "Workbook";
+    static constexpr auto members = std::to_array<MemberRow>({
+        {"Activate", Access::method},
+        {"ActiveSheet", Access::get},
+        {"Colors", Access::get_put, "Index"},
+        {"FullName", Access::get},
+        {"Name", Access::get},
+        {"Names", Access::get},
+        {"Path", Access::get},
+        {"Save", Access::method},
+        {"Saved", Access::get_put},
+        {"Worksheets", Access::get},
+    });
+    using Facade::Facade;
+
+    void Activate() const { call("Activate"); }
+    // A worksheet or a chart; Nothing without a visible sheet.
+    [[nodiscard]] ObjectRef ActiveSheet() const { return get<ObjectRef>("ActiveSheet"); }
+    // One of the 56 colours of the palette, BGR. Fails outside 1 to 56.
+    [[nodiscard]] std::int32_t Colors(Value index) const { return get<std::int32_t>("Colors", std::move(index)); }
+    void Colors(std::int32_t index, std::int32_t color) const { put_at("Colors", index, color); }
+    [[nodiscard]] std::string FullName() const { return get<std::string>("FullName"); }
+    [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
+    [[nodiscard]] excel::Names Names() const { return get<excel::Names>("Names"); }
+    [[nodiscard]] std::string Path() const { return get<std::string>("Path"); }
+    void Save() const { call("Save"); }
+    [[nodiscard]] bool Saved() const { return get<bool>("Saved"); }
+    void Saved(bool saved) const { put("Saved", saved); }
+    [[nodiscard]] excel::Worksheets Worksheets() const { return get<excel::Worksheets>("Worksheets"); }
+};
+
+}  // namespace kestrune::excel
