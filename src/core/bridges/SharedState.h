@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "automation/Object.h"
+#include "automation/Trace.h"
+#include "core/bridges/cXL.h"
+#include "core/bridges/diBRVBLib.h"
+#include "core/bridges/diBRXLLib.h"
+#include "forms/Presenter.h"
+
+namespace kestrune::settings {
+class cUserSettings;
+}
+
+namespace kestrune::core {
+
+// The objects that everything in the add-in works with: one set a loaded component, shared by every iPublic and
+// iGlobal. Each reference is null until start-up has made it, and again after shut-down.
+struct SharedState {
+    // What the component was wired with; both outlive it.
+    forms::Presenter& presenter;
+    const automation::Trace& trace;
+
+    std::shared_ptr<cXL> xl;
+    automation::ObjectRef application;      // Excel's Application
+    automation::ObjectRef add_in_workbook;  // the companion workbook
+    std::shared_ptr<diBRVBLib> general_library;
+    std::shared_ptr<diBRXLLib> spreadsheet_library;
+    std::shared_ptr<settings::cUserSettings> user_settings;
+    std::unique_ptr<std::vector<automation::Value>> command_collection;
+    std::int32_t counter = 0;
+};
+
+}  // namespace kestrune::core

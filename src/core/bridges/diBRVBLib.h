@@ -1,0 +1,75 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "core/bridges/LibraryBridge.h"
+
+namespace kestrune::core {
+
+// The general library: strings, product data, screen. The typed calls fail as automation calls do.
+class diBRVBLib : public LibraryBridge {
+  public:
+    explicit diBRVBLib(const automation::Trace& trace) : LibraryBridge("BRVBLib.iPublic", names, trace) {}
+
+    [[nodiscard]] const automation::ObjectRef& iConst() const { return object(Const); }
+    [[nodiscard]] const automation::ObjectRef& iDate() const { return object(Date); }
+    [[nodiscard]] const automation::ObjectRef& iDocProp() const { return object(DocProp); }
+    [[nodiscard]] const automation::ObjectRef& iFile() const { return object(File); }
+    [[nodiscard]] const automation::ObjectRef& iGUID() const { return object(GUID); }
+    [[nodiscard]] const automation::ObjectRef& iHotKeys() const { return object(HotKeys); }
+    [[nodiscard]] const automation::ObjectRef& iHTTP() const { return object(HTTP); }
+    [[nodiscard]] const automation::ObjectRef& iProduct() const { return object(Product); }
+    [[nodiscard]] const automation::ObjectRef& iScreen() const { return object(Screen); }
+    [[nodiscard]] const automation::ObjectRef& iSort() const { return object(Sort); }
+    [[nodiscard]] const automation::ObjectRef& iString() const { return object(String); }
+    [[nodiscard]] const automation::ObjectRef& iWinAPI() const { return object(WinAPI); }
+    [[nodiscard]] const automation::ObjectRef& iXML() const { return object(XML); }
+
+    // Hands over the Excel application whose window and screen updating the library looks after.
+    void set_application(const automation::ObjectRef& application) const;
+
+    [[nodiscard]] std::string constant(std::int32_t index) const;
+
+    // Whether the examples workbook is to be shown at this start.
+    [[nodiscard]] bool show_examples_at_start() const;
+    // Whether the tutorial menu may be shown.
+    [[nodiscard]] bool allows_training() const;
+    // A machine-wide product value ("TT", "LessonPath"); Empty when it is absent.
+    [[nodiscard]] automation::Value machine_value(std::string_view name) const;
+    // Before a command (false) and after it (true).
+    void command_bracket(bool ended) const;
+
+    // A text of the library's string table: for command n 2000 + n its name, 12000 + n what it does, 22000 + n its
+    // group, 32000 + n its default key, 42000 + n its topic in the examples. Bad index when there is none.
+    [[nodiscard]] std::string text(std::int32_t number) const;
+    // The key under which a style of this name stands in a collection.
+    [[nodiscard]] std::string style_key(std::string_view style_name) const;
+
+    // Places the application window: 1 maximised, 2 top half, 3 bottom half, 4 left half, 5 right half, 6 centred.
+    void place_window(std::int32_t placement) const;
+
+  private:
+    enum Place : std::size_t {
+        Const,
+        Date,
+        DocProp,
+        File,
+        GUID,
+        HotKeys,
+        HTTP,
+        Product,
+        Screen,
+        Sort,
+        String,
+        WinAPI,
+        XML
+    };
+    static constexpr std::array<std::string_view, 13> names{"iConst",   "iDate",   "iDocProp", "iFile",   "iGUID",
+                                                            "iHotKeys", "iHTTP",   "iProduct", "iScreen", "iSort",
+                                                            "iString",  "iWinAPI", "iXML"};
+};
+
+}  // namespace kestrune::core

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <iosfwd>
+
+#include "forms/Presenter.h"
+
+namespace kestrune::forms {
+
+// Asks on a terminal: writes the question and its choices, reads a line. A choice is its name or the beginning of
+// its name, a plain Enter the default. Asks again when it cannot make sense of the line; at the end of the input
+// takes the answer that commits to least. A box with nothing to choose is only written.
+class ConsolePresenter : public Presenter {
+  public:
+    // Both streams outlive the presenter.
+    ConsolePresenter(std::istream& input, std::ostream& output) : input_(input), output_(output) {}
+
+  private:
+    MsgBoxResult answer_to(const Message& message) override;
+
+    std::istream& input_;
+    std::ostream& output_;
+};
+
+}  // namespace kestrune::forms

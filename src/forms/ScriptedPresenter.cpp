@@ -1,0 +1,56 @@
+#include "forms/ScriptedPresenter.h"
+
+#include <algorithm>
+#include <array>
+
+#include "automation/Text.h"
+
+namespace kestrune::forms {
+namespace {
+
+struct PolicyRow {
+    std::string_view word;
+    // From the button meant to the last resort; every button set offers one of them.
+    std::array<MsgBoxResult, 4> wanted;
+};
+
+// In the order of AnswerPolicy.
+constexpr std::array<PolicyRow, 4> policies{{
+    {"ok", {vbOK, vbYes, vbIgnore, vbCancel}},
+    {"cancel", {vbCancel, vbNo, vbAbort, vbOK}},
+    {"yes", {vbYes, vbOK, vbIgnore, vbCancel}},
+    {"no", {vbNo, vbCancel, vbAbort, vbOK}},
+}};
+
+bool offers(std::int32_t buttons, MsgBoxResult answer) {
+    const auto offered = choices(buttons);
+    return std::ranges::find(offered, answer) != offered.end();
+}
+
+}  // namespace
+
+std::optional<AnswerPolicy> answer_policy(std::string_view word) {
+    for (std::size_t i = 0; i < policies.size(); ++i) {
+        if (automation::same_text(policies[i].word, word)) return static_cast<AnswerPolicy>(i);
+    }
+    return std::nullopt;
+}
+
+MsgBoxResult policy_answer(AnswerPolicy policy, std::int32_t buttons) {
+    for (const MsgBoxResult wanted : policies[static_cast<std::size_t>(policy)].wanted) {
+        if (offers(buttons, wanted)) return wanted;
+    }
+    return safe_choice(buttons);
+}
+
+MsgBoxResult ScriptedPresenter::answer_to(const Message& message) {
+    messages_.push_back(message);
+    if (!queue_.empty()) {
+        const MsgBoxResult answer = queue_.front();
+        queue_.pop_front();
+        if (offers(message.buttons, answer)) return answer;
+    }
+    return policy_answer(policy_, message.buttons);
+}
+
+}  // namespace kestrune::forms
