@@ -8,13 +8,8 @@
 namespace kestrune::automation {
 namespace {
 
-struct NameLess {
-    using is_transparent = void;
-    bool operator()(std::string_view a, std::string_view b) const { return text_less(a, b); }
-};
-
-std::map<std::string, ClassFactory, NameLess>& registry() {
-    static std::map<std::string, ClassFactory, NameLess> classes;
+std::map<std::string, ClassFactory, TextLess>& registry() {
+    static std::map<std::string, ClassFactory, TextLess> classes;
     return classes;
 }
 

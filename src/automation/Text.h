@@ -23,6 +23,12 @@ constexpr bool text_less(std::string_view a, std::string_view b) {
     return a.size() < b.size();
 }
 
+// Orders the keys of a map in which names are looked up whatever their case.
+struct TextLess {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const { return text_less(a, b); }
+};
+
 // The text without blanks and tabs at its ends.
 constexpr std::string_view trimmed(std::string_view text) {
     while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);

@@ -2,8 +2,10 @@
 
 #include <cstdint>
 #include <memory>
+#include <string_view>
 #include <vector>
 
+#include "automation/AutomationError.h"
 #include "automation/Object.h"
 #include "automation/Trace.h"
 #include "core/bridges/cXL.h"
@@ -20,6 +22,8 @@ namespace kestrune::core {
 // The objects that everything in the add-in works with: one set a loaded component, shared by every iPublic and
 // iGlobal. Each reference is null until start-up has made it, and again after shut-down.
 struct SharedState {
+    SharedState(forms::Presenter& shown_by, const automation::Trace& told_to) : presenter(shown_by), trace(told_to) {}
+
     // What the component was wired with; both outlive it.
     forms::Presenter& presenter;
     const automation::Trace& trace;
@@ -32,6 +36,18 @@ struct SharedState {
     std::shared_ptr<settings::cUserSettings> user_settings;
     std::unique_ptr<std::vector<automation::Value>> command_collection;
     std::int32_t counter = 0;
+
+    // The same objects for a statement that needs them: object-required where the reference is null.
+    [[nodiscard]] diBRVBLib& general() const { return required(general_library, "the general library"); }
+    [[nodiscard]] diBRXLLib& spreadsheet() const { return required(spreadsheet_library, "the spreadsheet library"); }
+    [[nodiscard]] settings::cUserSettings& settings() const { return required(user_settings, "the user settings"); }
+
+  private:
+    template <class T>
+    static T& required(const std::shared_ptr<T>& object, std::string_view name) {
+        if (!object) throw automation::AutomationError(automation::hresult::object_required, name, "not loaded");
+        return *object;
+    }
 };
 
 }  // namespace kestrune::core
