@@ -7,23 +7,15 @@
 #include <vector>
 
 #include "host/xlsx/PackageError.h"
+#include "host/xlsx/package/PackageKind.h"
 #include "host/xlsx/package/Relationship.h"
+#include "host/xlsx/package/XmlText.h"
 
 namespace kestrune::host {
-
-/// What the content type of the main part says the file is.
-enum class PackageKind { Workbook, MacroWorkbook, Template, MacroTemplate, AddIn };
 
 struct PartInfo {
     std::string name;        ///< without leading slash, spelled as in the file: "xl/worksheets/sheet1.xml"
     std::uint64_t size = 0;  ///< bytes when inflated
-};
-
-enum class XmlEncoding { Utf8, Utf8WithMark, Utf16LittleEndian, Utf16BigEndian };
-
-struct XmlText {
-    std::string text;  ///< UTF-8 without byte order mark; a declaration that named another encoding says UTF-8
-    XmlEncoding encoding = XmlEncoding::Utf8;  ///< how the part is stored in the file
 };
 
 /// An .xlsx or .xlsm file as a set of named parts (Open Packaging Conventions, ECMA-376 part 2).
