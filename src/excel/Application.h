@@ -20,13 +20,18 @@ class Application : public Facade<Application> {
         {"ActiveWorkbook", Access::get},
         {"Calculation", Access::get_put},
         {"Goto", Access::method, "Reference Scroll"},
+        {"Height", Access::get_put},
+        {"Left", Access::get_put},
         {"Name", Access::get},
+        {"Ready", Access::get},
         {"Run", Access::method,
          "Macro Arg1 Arg2 Arg3 Arg4 Arg5 Arg6 Arg7 Arg8 Arg9 Arg10 Arg11 Arg12 Arg13 Arg14 Arg15 Arg16 Arg17 Arg18 "
          "Arg19 Arg20 Arg21 Arg22 Arg23 Arg24 Arg25 Arg26 Arg27 Arg28 Arg29 Arg30"},
         {"ScreenUpdating", Access::get_put},
         {"Selection", Access::get},
+        {"Top", Access::get_put},
         {"Version", Access::get},
+        {"Width", Access::get_put},
         {"WindowState", Access::get_put},
         {"Workbooks", Access::get},
     });
@@ -49,11 +54,22 @@ class Application : public Facade<Application> {
     }
     [[nodiscard]] bool ScreenUpdating() const { return get<bool>("ScreenUpdating"); }
     void ScreenUpdating(bool updating) const { put("ScreenUpdating", updating); }
+    // Whether Excel takes calls: not while a cell is edited or a dialog is open.
+    [[nodiscard]] bool Ready() const { return get<bool>("Ready"); }
     // A range, another object (a chart, a shape) or Nothing.
     [[nodiscard]] ObjectRef Selection() const { return get<ObjectRef>("Selection"); }
     [[nodiscard]] std::string Version() const { return get<std::string>("Version"); }
     [[nodiscard]] std::int32_t WindowState() const { return get<std::int32_t>("WindowState"); }  // XlWindowState
     void WindowState(std::int32_t state) const { put("WindowState", state); }
+    // Place and size of Excel's window, points; a write to a maximised or minimised window fails.
+    [[nodiscard]] double Left() const { return get<double>("Left"); }
+    void Left(double points) const { put("Left", points); }
+    [[nodiscard]] double Top() const { return get<double>("Top"); }
+    void Top(double points) const { put("Top", points); }
+    [[nodiscard]] double Width() const { return get<double>("Width"); }
+    void Width(double points) const { put("Width", points); }
+    [[nodiscard]] double Height() const { return get<double>("Height"); }
+    void Height(double points) const { put("Height", points); }
     [[nodiscard]] excel::Workbooks Workbooks() const { return get<excel::Workbooks>("Workbooks"); }
 };
 

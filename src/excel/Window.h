@@ -15,6 +15,7 @@ class Window : public Facade<Window> {
         {"ActiveSheet", Access::get},
         {"DisplayGridlines", Access::get_put},
         {"DisplayHeadings", Access::get_put},
+        {"WindowState", Access::get_put},
         {"Zoom", Access::get_put},
     });
     using Facade::Facade;
@@ -24,6 +25,8 @@ class Window : public Facade<Window> {
     void DisplayGridlines(bool shown) const { put("DisplayGridlines", shown); }
     [[nodiscard]] bool DisplayHeadings() const { return get<bool>("DisplayHeadings"); }
     void DisplayHeadings(bool shown) const { put("DisplayHeadings", shown); }
+    [[nodiscard]] std::int32_t WindowState() const { return get<std::int32_t>("WindowState"); }  // XlWindowState
+    void WindowState(std::int32_t state) const { put("WindowState", state); }
     // Per cent, 10 to 400; a write outside fails.
     [[nodiscard]] std::int32_t Zoom() const { return get<std::int32_t>("Zoom"); }
     void Zoom(std::int32_t percent) const { put("Zoom", percent); }

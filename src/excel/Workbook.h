@@ -29,6 +29,8 @@ class Workbook : public Facade<Workbook> {
     void Activate() const { call("Activate"); }
     // A worksheet or a chart; Nothing without a visible sheet.
     [[nodiscard]] ObjectRef ActiveSheet() const { return get<ObjectRef>("ActiveSheet"); }
+    // The whole palette, BGR: an array of 56 colours.
+    [[nodiscard]] Value Colors() const { return get<Value>("Colors"); }
     // One of the 56 colours of the palette, BGR. Fails outside 1 to 56.
     [[nodiscard]] std::int32_t Colors(Value index) const { return get<std::int32_t>("Colors", std::move(index)); }
     void Colors(std::int32_t index, std::int32_t color) const { put_at("Colors", index, color); }

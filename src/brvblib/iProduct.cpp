@@ -1,0 +1,51 @@
+#include "brvblib/iProduct.h"
+
+#include <utility>
+
+#include "automation/ResumeNext.h"
+
+namespace kestrune::brvblib {
+
+using automation::MemberTable;
+using automation::method;
+using automation::Value;
+
+iProduct::iProduct(std::shared_ptr<Library> library) : library_(std::move(library)), bracket_(library_->trace) {}
+
+void iProduct::register_client(const std::string& client_name, const std::string& product_name,
+                               const std::string& title) {
+    library_->clients.insert_or_assign(client_name, Client{product_name, title});
+}
+
+bool iProduct::show_examples_at_start() const {
+    return automation::to_boolean(library_->settings.value("ShowExamples"));
+}
+
+bool iProduct::allows_training() const {
+    const Value installed = library_->settings.value("TT");
+    return installed.is(Value::Kind::Empty) || automation::to_boolean(installed);
+}
+
+Value iProduct::machine_value(const std::string& name) const { return library_->settings.value(name); }
+
+void iProduct::command_bracket(bool ended, const std::string&) {
+    // One Excel, one screen: brackets of several products nest in each other.
+    if (ended) {
+        bracket_.end();
+    } else {
+        bracket_.begin(library_->application);
+    }
+}
+
+const MemberTable& iProduct::members() {
+    static constexpr auto rows = automation::member_rows(
+        method<&iProduct::register_client>("RegisterClient", 1, "ClientName, ProductName, Title"),
+        method<&iProduct::show_examples_at_start>("ShowExamplesAtStart", 2),
+        method<&iProduct::allows_training>("AllowsTraining", 3),
+        method<&iProduct::machine_value>("MachineValue", 4, "Name"),
+        method<&iProduct::command_bracket>("CommandBracket", 5, "Ended, Product"));
+    static constexpr MemberTable table("iProduct", rows);
+    return table;
+}
+
+}  // namespace kestrune::brvblib

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "automation/MemberTable.h"
+#include "brvblib/CommandBracket.h"
+#include "brvblib/Library.h"
+
+namespace kestrune::brvblib {
+
+// The products that use the library: who they are, what is set for them on this machine, and when one of their
+// commands runs.
+class iProduct : public automation::Served<iProduct> {
+  public:
+    explicit iProduct(std::shared_ptr<Library> library);
+    static const automation::MemberTable& members();
+
+  private:
+    // Registering a name again replaces what was said before.
+    void register_client(const std::string& client_name, const std::string& product_name, const std::string& title);
+    [[nodiscard]] bool show_examples_at_start() const;
+    [[nodiscard]] bool allows_training() const;
+    [[nodiscard]] automation::Value machine_value(const std::string& name) const;
+    // Before a command (ended False) and after it (True) of the product named.
+    void command_bracket(bool ended, const std::string& product);
+
+    std::shared_ptr<Library> library_;
+    CommandBracket bracket_;
+};
+
+}  // namespace kestrune::brvblib

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "automation/Object.h"
+#include "automation/Text.h"
+#include "automation/Trace.h"
+#include "excel/Application.h"
+
+namespace kestrune::brxllib {
+
+// A program that uses the library.
+struct Client {
+    std::string product_name;
+    std::string title;
+};
+
+// What the library's objects share.
+struct Library {
+    const automation::Trace& trace;  // outlives the library
+    excel::Application application;  // Nothing until a client hands it over
+    std::map<std::string, Client, automation::TextLess> clients;
+};
+
+}  // namespace kestrune::brxllib
