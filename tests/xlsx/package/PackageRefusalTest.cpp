@@ -53,6 +53,12 @@ std::string with_field(std::string archive, std::string_view part, std::size_t f
     return archive;
 }
 
+// The archive whose end counts so many entries.
+std::string with_count(std::string archive, std::uint16_t count) {
+    store(archive, archive.size() - 12, count);
+    return archive;
+}
+
 std::string workbook_of_type(const std::string& content_type) {
     const std::string types =
         R"(<Types><Override PartName="/xl/workbook.xml" ContentType=")" + content_type + "\"/></Types>";
@@ -75,6 +81,8 @@ TEST(PackageRefusal, SaysWhatAFileIs) {
         {compound_file({"Root Entry", "Book"}), "is an .xls: " + expected},
         {compound_file({"Root Entry", "WordDocument", "Workbooks"}),
          "is an OLE compound file without a workbook: " + expected},
+        {with_count(archive, 5), "is a damaged zip archive: its directory has more entries than it counts"},
+        {with_count(archive, 7), "is a damaged zip archive: its directory has fewer entries than it counts"},
         {zip_of({{"a.txt", "x"}}), "is a zip archive, but not a workbook: [Content_Types].xml is missing"},
         {zip_of({{"mimetype", "application/vnd.oasis.opendocument.spreadsheet", true}, {"content.xml", "<a/>"}}),
          "is an OpenDocument spreadsheet: " + expected},

@@ -182,7 +182,7 @@ struct Package::State {
         }
         const Item* item = find(*target);
         if (item == nullptr) item = find(percent_decoded(*target));
-        row.target = item == nullptr ? std::move(*target) : parts[item->part].name;
+        row.target = item == nullptr ? *target : parts[item->part].name;
     }
 };
 

@@ -42,6 +42,10 @@ class DirectoryReader {
             find_data(entry, static_cast<std::size_t>(place.offset));
             directory.entries.push_back(entry);
         }
+        // Entries that the count hides would be lost on saving.
+        if (at < end && signature_at(bytes_, at, ZipCentralSignature)) {
+            damaged("its directory has more entries than it counts");
+        }
         refuse_overlaps(directory.entries);
         return directory;
     }
