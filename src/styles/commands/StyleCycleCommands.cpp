@@ -1,0 +1,87 @@
+#include "styles/commands/StyleCycleCommands.h"
+
+#include "automation/ResumeNext.h"
+#include "excel/Application.h"
+#include "excel/Constants.h"
+#include "settings/cUserSettings.h"
+
+namespace kestrune::styles {
+namespace {
+
+using automation::ResumeNext;
+using automation::Value;
+using settings::StyleCycle;
+
+// From here on redrawing after every call would be seen.
+constexpr double cells_redrawn_at_once = 9;
+
+constexpr std::int32_t red = 0x0000FF;
+
+struct Condition {
+    std::int32_t operation;
+    Value formula1;
+    Value formula2 = automation::Missing{};
+};
+
+// Shows every value but 0 and 1 in red.
+void add_binary_conditions(const core::SharedState& shared, const excel::FormatConditions& conditions) {
+    const Condition flags[] = {
+        {excel::xlGreater, "1"},
+        {excel::xlBetween, "0.00001", ".99999"},
+        {excel::xlLess, "0"},
+    };
+    const ResumeNext attempt(shared.trace);
+    for (const Condition& flag : flags) {
+        attempt([&] {
+            const excel::FormatCondition added =
+                conditions.Add(excel::xlCellValue, flag.operation, flag.formula1, flag.formula2);
+            added.Font().Color(red);
+        });
+    }
+}
+
+bool pauses_redrawing(StyleCycle cycle) {
+    return cycle == StyleCycle::BorderStyleToggle || cycle >= StyleCycle::MyStyleToggle1;
+}
+
+}  // namespace
+
+void apply_style_cycle(core::SharedState& shared, StyleCycle cycle, std::int32_t position) {
+    const ResumeNext attempt(shared.trace);
+    const excel::Application application(shared.application);
+    automation::ObjectRef selected;
+    attempt.assign(selected, [&] { return application.Selection(); });
+    if (!excel::Range::is(selected)) return;
+    const excel::Range selection(selected);
+
+    if (cycle == StyleCycle::CenterStyleToggle) attempt([&] { selection.MergeCells(false); });
+    bool paused = false;
+    if (pauses_redrawing(cycle)) {
+        attempt.assign(paused, [&] { return selection.Cells().CountLarge() > cells_redrawn_at_once; });
+    }
+    if (paused) attempt([&] { application.ScreenUpdating(false); });
+    attempt([&] {
+        const StyleToggleRef& toggle = shared.settings().cycle(cycle);
+        if (toggle) toggle->Apply(shared, selection, position);
+    });
+    if (paused) attempt([&] { application.ScreenUpdating(true); });
+
+    excel::FormatConditions conditions;
+    attempt.assign(conditions, [&] { return selection.FormatConditions(); });
+    attempt([&] { conditions.Delete(); });
+    if (cycle == StyleCycle::BinaryStyleToggle) add_binary_conditions(shared, conditions);
+}
+
+void ApplySmartCycleStyle(core::SharedState& shared, std::int32_t cycle_number, std::int32_t position,
+                          const automation::ObjectRef& range) {
+    if (cycle_number < 1 || cycle_number > static_cast<std::int32_t>(settings::my_style_cycle_count)) return;
+    if (!excel::Range::is(range)) return;
+    const ResumeNext attempt(shared.trace);
+    attempt([&] {
+        const StyleToggleRef& toggle =
+            shared.settings().cycle(settings::my_style_cycle(static_cast<std::size_t>(cycle_number)));
+        if (toggle) toggle->Apply(shared, excel::Range(range), position);
+    });
+}
+
+}  // namespace kestrune::styles
