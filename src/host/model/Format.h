@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 
 #include "host/model/Color.h"
 
@@ -90,12 +91,43 @@ struct Line {
     bool operator==(const Line&) const = default;
 };
 
+// A side of a cell or an area; as bits, several sides.
+enum class Edge : std::uint8_t { Left = 1, Top = 2, Right = 4, Bottom = 8 };
+
+// The side that a neighbour across this one touches it with.
+[[nodiscard]] constexpr Edge facing(Edge edge) {
+    switch (edge) {
+        case Edge::Left:
+            return Edge::Right;
+        case Edge::Top:
+            return Edge::Bottom;
+        case Edge::Right:
+            return Edge::Left;
+        default:
+            return Edge::Top;
+    }
+}
+
 struct Border {
     Line left, right, top, bottom, diagonal;
     bool diagonal_up = false;
     bool diagonal_down = false;
     bool outline = true;
     std::string extra;  // <vertical>, <horizontal>
+
+    [[nodiscard]] const Line& line(Edge edge) const {
+        switch (edge) {
+            case Edge::Left:
+                return left;
+            case Edge::Top:
+                return top;
+            case Edge::Right:
+                return right;
+            default:
+                return bottom;
+        }
+    }
+    [[nodiscard]] Line& line(Edge edge) { return const_cast<Line&>(std::as_const(*this).line(edge)); }
 
     bool operator==(const Border&) const = default;
 };

@@ -1,7 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
-#include <map>
+#include <utility>
 #include <vector>
 
 #include "formula/Area.h"
@@ -20,6 +21,7 @@ struct RowFormat {
     StyleId style = 0;     // of the row's blank cells when has_style
     bool changed = false;  // differs from the file
 
+    bool operator==(const RowFormat&) const = default;
     [[nodiscard]] bool plain() const {
         return height < 0 && !custom_height && !hidden && !collapsed && outline_level == 0 && !has_style;
     }
@@ -38,6 +40,7 @@ struct ColumnRun {
     std::uint8_t outline_level = 0;
     StyleId style = 0;
 
+    bool operator==(const ColumnRun&) const = default;
     // Whether two runs say the same of their columns.
     [[nodiscard]] bool same_format(const ColumnRun& other) const;
     [[nodiscard]] bool plain() const;
@@ -49,21 +52,55 @@ class ColumnRuns {
     [[nodiscard]] const std::vector<ColumnRun>& runs() const { return runs_; }
     // The run that holds a column; a plain run of that column alone where none is stored.
     [[nodiscard]] ColumnRun at(std::int32_t column) const;
-    // Changes all columns from first to last; change sees each run of alike columns once, gaps as plain runs.
+    [[nodiscard]] StyleId style_at(std::int32_t column) const;
+    // Changes all columns from first to last; change_run sees each run of alike columns once, gaps as plain runs. It
+    // may change anything but the run's bounds.
     template <class Change>
     void change(std::int32_t first, std::int32_t last, Change&& change_run);
     // Visits the runs that make up first..last, gaps as plain runs, cut to these bounds.
     template <class Visit>
     void visit(std::int32_t first, std::int32_t last, Visit&& visit_run) const;
-    void load(ColumnRun run) { runs_.push_back(run); }  // in order, as the file lists them
+    void load(ColumnRun run) { runs_.push_back(run); }  // as the file lists them
+    void finish_loading();  // sorts, and lets the first of overlapping runs win, as damaged files have them
 
     bool changed = false;  // differs from the file
 
   private:
-    void split_at(std::int32_t column);  // makes a run boundary before the column
-    void join();                         // makes neighbours alike into one run, drops plain ones
+    [[nodiscard]] std::vector<ColumnRun>::const_iterator first_ending_at_or_after(std::int32_t column) const;
+    // Puts these neighbouring runs in the place of all that is stored between their bounds.
+    void replace(const std::vector<ColumnRun>& runs);
 
     std::vector<ColumnRun> runs_;
 };
+
+template <class Visit>
+void ColumnRuns::visit(std::int32_t first, std::int32_t last, Visit&& visit_run) const {
+    std::int32_t next = first;
+    for (auto run = first_ending_at_or_after(first); run != runs_.end() && run->first <= last; ++run) {
+        if (next < run->first) visit_run(ColumnRun{.first = next, .last = run->first - 1});
+        ColumnRun cut = *run;
+        cut.first = std::max(run->first, first);
+        cut.last = std::min(run->last, last);
+        next = cut.last + 1;
+        visit_run(static_cast<const ColumnRun&>(cut));
+    }
+    if (next <= last) visit_run(ColumnRun{.first = next, .last = last});
+}
+
+template <class Change>
+void ColumnRuns::change(std::int32_t first, std::int32_t last, Change&& change_run) {
+    std::vector<ColumnRun> pieces;
+    bool differs = false;
+    visit(first, last, [&](const ColumnRun& run) {
+        ColumnRun& piece = pieces.emplace_back(run);
+        change_run(piece);
+        piece.first = run.first;
+        piece.last = run.last;
+        differs = differs || !piece.same_format(run);
+    });
+    if (!differs) return;
+    changed = true;
+    replace(pieces);
+}
 
 }  // namespace kestrune::host

@@ -31,15 +31,26 @@ struct CellContent {
     static CellContent of(bool boolean);
     static CellContent of(CellError error);
     static CellContent of(std::string text);
+    static CellContent of(const char* text) { return of(std::string(text)); }  // else it would be a truth value
+};
+
+struct BlankCell {
+    std::int32_t row;
+    StyleId style;
 };
 
 // The cells of one column from top to bottom, sorted by row, at most one a row.
 struct CellColumn {
     std::vector<Cell> cells;
 
+    // The first cell at or below a row, which may be the end.
+    [[nodiscard]] std::vector<Cell>::const_iterator from(std::int32_t row) const;
+    [[nodiscard]] std::vector<Cell>::iterator from(std::int32_t row);
     [[nodiscard]] const Cell* find(std::int32_t row) const;
     [[nodiscard]] Cell* find(std::int32_t row);
     Cell& at_or_new(std::int32_t row, StyleId style_when_new);  // keeps the order; appending is cheap
+    // Adds blank cells where there are none yet, all in one pass; rows ascending. Whether any was missing.
+    bool add_missing(const std::vector<BlankCell>& blanks);
 };
 
 enum class SheetKind : std::uint8_t { Worksheet, Chartsheet, Other };
@@ -91,11 +102,14 @@ class Sheet {
     // Stored cells of an area, row by row when `by_rows`, else column by column (faster).
     void visit_cells(const Area& area, bool by_rows, const std::function<void(Position, const Cell&)>& visit);
 
-    // Content. Writing marks the part changed; a formula loses its cached value.
+    // Content. Writing marks the part changed; a formula loses its cached value. A part of an array formula
+    // or data table of several cells cannot be written alone: ModelError, and nothing changes. What writes a whole one
+    // clears it first. Values that other formulas may use go stale, so the workbook recalculates on load.
     void set_content(Position at, const CellContent& content);
     void set_formula(Position at, std::string text);  // without "="; a checked formula
     void set_array_formula(const Area& reach, std::string text);
     void clear_content(const Area& area);
+    void require_whole_arrays(const Area& area);  // ModelError when the area holds some cells of an array, not all
 
     // Formats. `map` is called once for every distinct format in the area and answers its successor.
     // Whole columns, rows and sheets change their column and row formats, and cells only where they
@@ -107,11 +121,23 @@ class Sheet {
     // The distinct formats that an area shows, blank cells included, each once, that of its top-left cell first.
     [[nodiscard]] std::vector<StyleId> styles_in(const Area& area);
 
+    // Lines between cells. The line between two neighbours is one: either side shows it, the cell's own first.
+    [[nodiscard]] Line edge_line(Position at, Edge edge);
+    // The distinct lines along one side of an area, seen from inside, blank cells included; never empty.
+    [[nodiscard]] std::vector<Line> edge_lines(const Area& area, Edge edge);
+    // The distinct lines between the area's columns (or rows); empty when it has one only.
+    [[nodiscard]] std::vector<Line> inside_lines(const Area& area, bool between_columns);
+    // Takes away what the neighbours around the area draw along these sides (bits of Edge), so that the area's own
+    // lines, or none, show there.
+    void clear_facing_lines(const Area& area, unsigned edges);
+
     // Rows and columns. Heights in points, widths in characters of the Normal font's widest digit as a
     // user sees them (padding taken off).
     [[nodiscard]] double row_height(std::int32_t row);                          // 0 when hidden
     void set_row_height(std::int32_t first, std::int32_t last, double points);  // rounded to pixels; 0 hides
-    [[nodiscard]] double column_width(std::int32_t column);
+    [[nodiscard]] double column_width(std::int32_t column);                     // 0 when hidden
+    [[nodiscard]] std::int32_t column_pixels(std::int32_t column);              // at 96 dpi; 0 when hidden
+    [[nodiscard]] std::int32_t default_column_pixels() const;
     void set_column_width(std::int32_t first, std::int32_t last, double characters);
     [[nodiscard]] const RowFormat* row_format(std::int32_t row);  // null for a plain row
     void change_rows(std::int32_t first, std::int32_t last, const std::function<void(RowFormat&)>& change);
@@ -123,6 +149,7 @@ class Sheet {
     bool zero_height = false;            // rows are hidden unless they say otherwise
     bool summary_below = true;
     bool summary_right = true;
+    bool custom_default_height = false;  // default_row_height was set by someone, not measured
     bool sheet_format_changed = false;
 
     // Merged areas; they never overlap.
@@ -151,10 +178,22 @@ class Sheet {
     [[nodiscard]] const std::vector<Formula>& formulas() const { return formulas_; }
 
   private:
+    void finish_loading();
+    [[nodiscard]] CellColumn* column_if(std::int32_t column) const;  // null without cells
+    [[nodiscard]] CellColumn& column_or_new(std::int32_t column);
+    [[nodiscard]] StyleId inherited_style(Position at) const;  // the row's, else the column's
+    [[nodiscard]] RowFormat new_row_format() const;
+    Cell& cell_for_content(Position at);
+    [[nodiscard]] const Formula* live_array_at(Position at) const;
+    void before_overwriting(Cell& cell, Position at);
+    void value_changed();
+
     Workbook& workbook_;
     std::string name_;
     SheetKind kind_;
     std::function<void(Sheet&)> loader_;
+    bool unsorted_ = false;              // while loading: some column's cells did not come from top to bottom
+    std::vector<std::uint32_t> arrays_;  // the formulas_ that cover more than their own cell
     std::vector<std::unique_ptr<CellColumn>> cells_;
     std::vector<Formula> formulas_;
     std::map<std::int32_t, RowFormat> rows_;

@@ -33,7 +33,8 @@ class StringTable {
     void ensure_loaded();
 
     std::deque<Entry> entries_;
-    std::unordered_map<std::string_view, std::uint32_t> plain_;  // of texts interned since loading
+    std::unordered_map<std::string_view, std::uint32_t> plain_;  // the first of equal plain texts, up to indexed_
+    std::uint32_t indexed_ = 0;
     std::function<void(StringTable&)> loader_;
     std::uint32_t loaded_count_ = 0;
 };

@@ -7,9 +7,11 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "host/model/Format.h"
+#include "host/model/FormatHash.h"
 
 namespace kestrune::host {
 
@@ -23,8 +25,20 @@ class InternedList {
     [[nodiscard]] std::uint32_t size() const { return static_cast<std::uint32_t>(items_.size()); }
     [[nodiscard]] const T& operator[](std::uint32_t position) const { return items_[position]; }
 
-    std::uint32_t append(T item);  // without looking for an equal one
-    std::uint32_t intern(const T& item);
+    // Without looking for an equal one.
+    std::uint32_t append(T item) {
+        const std::uint32_t position = size();
+        by_hash_.emplace(hash_of(item), position);
+        items_.push_back(std::move(item));
+        return position;
+    }
+    std::uint32_t intern(const T& item) {
+        const auto [first, last] = by_hash_.equal_range(hash_of(item));
+        std::uint32_t found = size();
+        for (auto twin = first; twin != last; ++twin)
+            if (twin->second < found && items_[twin->second] == item) found = twin->second;
+        return found < size() ? found : append(item);
+    }
 
   private:
     std::deque<T> items_;  // references stay good while it grows

@@ -1,0 +1,62 @@
+#include "host/model/RowsAndColumns.h"
+
+namespace kestrune::host {
+
+bool ColumnRun::same_format(const ColumnRun& other) const {
+    ColumnRun moved = other;
+    moved.first = first;
+    moved.last = last;
+    return *this == moved;
+}
+
+bool ColumnRun::plain() const { return same_format(ColumnRun{}); }
+
+std::vector<ColumnRun>::const_iterator ColumnRuns::first_ending_at_or_after(std::int32_t column) const {
+    return std::ranges::lower_bound(runs_, column, {}, &ColumnRun::last);
+}
+
+ColumnRun ColumnRuns::at(std::int32_t column) const {
+    const auto run = first_ending_at_or_after(column);
+    if (run != runs_.end() && run->first <= column) return *run;
+    return {.first = column, .last = column};
+}
+
+StyleId ColumnRuns::style_at(std::int32_t column) const {
+    const auto run = first_ending_at_or_after(column);
+    return run != runs_.end() && run->first <= column ? run->style : 0;
+}
+
+void ColumnRuns::finish_loading() {
+    if (!std::ranges::is_sorted(runs_, {}, &ColumnRun::first)) std::ranges::stable_sort(runs_, {}, &ColumnRun::first);
+    std::int32_t next = 1;
+    for (ColumnRun& run : runs_) {
+        run.first = std::max(run.first, next);
+        next = std::max(next, run.last + 1);
+    }
+    std::erase_if(runs_, [](const ColumnRun& run) { return run.first > run.last; });
+}
+
+void ColumnRuns::replace(const std::vector<ColumnRun>& runs) {
+    const std::int32_t first = runs.front().first;
+    const std::int32_t last = runs.back().last;
+    std::vector<ColumnRun> joined;
+    joined.reserve(runs_.size() + runs.size() + 1);
+    const auto add = [&](ColumnRun run) {
+        if (run.first > run.last || run.plain()) return;
+        if (!joined.empty() && joined.back().last + 1 == run.first && joined.back().same_format(run))
+            joined.back().last = run.last;
+        else
+            joined.push_back(run);
+    };
+    const auto add_cut = [&](ColumnRun run, std::int32_t from, std::int32_t to) {
+        run.first = std::max(run.first, from);
+        run.last = std::min(run.last, to);
+        add(run);
+    };
+    for (const ColumnRun& run : runs_) add_cut(run, 1, first - 1);
+    for (const ColumnRun& run : runs) add(run);
+    for (const ColumnRun& run : runs_) add_cut(run, last + 1, formula::max_columns);
+    runs_ = std::move(joined);
+}
+
+}  // namespace kestrune::host

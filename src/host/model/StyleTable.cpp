@@ -1,0 +1,89 @@
+#include "host/model/StyleTable.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "host/model/BuiltInNumberFormats.h"
+
+namespace kestrune::host {
+namespace {
+
+constexpr std::uint32_t first_custom_number = 164;
+
+// The format that has `changed` where `base` had its own piece of it.
+template <class Piece>
+StyleId with_piece(StyleTable& table, StyleId base, InternedList<Piece>& pieces, std::uint32_t CellFormat::*number,
+                   const std::function<void(Piece&)>& change) {
+    const std::uint32_t before = table.formats[base].*number;
+    Piece piece = pieces[before];
+    change(piece);
+    if (piece == pieces[before]) return base;
+    CellFormat format = table.formats[base];
+    format.*number = pieces.intern(piece);
+    return table.formats.intern(format);
+}
+
+}  // namespace
+
+StyleTable StyleTable::defaults() {
+    StyleTable table;
+    Font font;
+    font.color = Color::theme(1);
+    font.family = 2;
+    font.scheme = "minor";
+    table.fonts.append(std::move(font));
+    table.fills.append(Fill{});
+    table.fills.append(Fill{Pattern::Gray125, {}, {}, {}});
+    table.borders.append(Border{});
+    table.formats.append(CellFormat{});
+    table.named_styles.push_back({"Normal", CellFormat{}});
+    return table;
+}
+
+const std::string& StyleTable::number_format(std::uint32_t number) const {
+    static const std::string general = "General";
+    if (const auto custom = number_formats_.find(number); custom != number_formats_.end()) return custom->second;
+    const std::string* built_in = built_in_number_format(number);
+    return built_in ? *built_in : general;
+}
+
+std::uint32_t StyleTable::intern_number_format(std::string_view code) {
+    std::string key(code);
+    if (const auto known = numbers_by_code_.find(key); known != numbers_by_code_.end()) return known->second;
+    // A file may give a built-in number a code of its own (currencies of other countries): then it is taken.
+    if (const auto built_in = built_in_number_format_of(code); built_in && !number_formats_.contains(*built_in))
+        return *built_in;
+    std::uint32_t number = first_custom_number;
+    for (const auto& [taken, _] : number_formats_) number = std::max(number, taken + 1);
+    load_number_format(number, std::move(key));
+    return number;
+}
+
+void StyleTable::load_number_format(std::uint32_t number, std::string code) {
+    std::string& stored = number_formats_[number];
+    // A number given twice has its last code, so the first must not be found under it any more.
+    if (const auto old = numbers_by_code_.find(stored); old != numbers_by_code_.end() && old->second == number)
+        numbers_by_code_.erase(old);
+    numbers_by_code_.emplace(code, number);
+    stored = std::move(code);
+}
+
+StyleId StyleTable::with_font(StyleId base, const std::function<void(Font&)>& change) {
+    return with_piece(*this, base, fonts, &CellFormat::font, change);
+}
+
+StyleId StyleTable::with_fill(StyleId base, const std::function<void(Fill&)>& change) {
+    return with_piece(*this, base, fills, &CellFormat::fill, change);
+}
+
+StyleId StyleTable::with_border(StyleId base, const std::function<void(Border&)>& change) {
+    return with_piece(*this, base, borders, &CellFormat::border, change);
+}
+
+StyleId StyleTable::with_format(StyleId base, const std::function<void(CellFormat&)>& change) {
+    CellFormat format = formats[base];
+    change(format);
+    return format == formats[base] ? base : formats.intern(format);
+}
+
+}  // namespace kestrune::host
