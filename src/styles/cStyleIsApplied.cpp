@@ -104,18 +104,17 @@ bool cStyle::borders_are_applied(const core::SharedState& shared, const excel::R
                edge_has.shows([&] { return border.ColorIndex(); }, AsBorderColorIndex);
     };
 
-    // An outline round several cells gives the top-left one only some of its sides. The others belong to
-    // lines inside the range, which such a style neither draws nor clears.
+    // The right and bottom edges of the top-left cell of several cells are lines inside the range. An outline
+    // neither draws nor clears those, and a grid draws them for the neighbour's sake too.
     std::int32_t rows = 1;
     std::int32_t columns = 1;
-    if (!BordersInternal) {
-        attempt.assign(rows, [&] { return range.Rows().Count(); });
-        attempt.assign(columns, [&] { return range.Columns().Count(); });
-    }
+    attempt.assign(rows, [&] { return range.Rows().Count(); });
+    attempt.assign(columns, [&] { return range.Columns().Count(); });
     const auto carries = [&](const Side& side) {
-        if (side.edge == excel::xlEdgeBottom) return rows == 1;
-        if (side.edge == excel::xlEdgeRight) return columns == 1;
-        return true;
+        const bool bottom = side.edge == excel::xlEdgeBottom && rows > 1;
+        const bool right = side.edge == excel::xlEdgeRight && columns > 1;
+        if (!bottom && !right) return true;
+        return BordersInternal && (this->*side.selected || !(bottom ? BorderTop : BorderLeft));
     };
 
     bool a_line_was_seen = false;
