@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -59,6 +60,7 @@ class Value {
     Value(std::string_view v) : data_(std::string(v)) {}
     Value(const char* v) : data_(std::string(v)) {}
     Value(Array v);
+    Value(std::nullptr_t) : data_(ObjectRef()) {}  // Nothing; not a null text
     template <class T>
     requires std::is_convertible_v<T*, Object*> Value(std::shared_ptr<T> v) : data_(ObjectRef(std::move(v))) {}
     template <class T>

@@ -4,21 +4,13 @@
 
 namespace kestrune::core {
 
-using automation::to_boolean;
 using automation::to_text;
-using automation::Value;
 
 void diBRVBLib::set_application(const automation::ObjectRef& application) const {
     automation::call(automation::to_required_object(iPublic()), "SetApplication", {application});
 }
 
 std::string diBRVBLib::constant(std::int32_t index) const { return to_text(call(Const, "Text", {index})); }
-
-bool diBRVBLib::show_examples_at_start() const { return to_boolean(call(Product, "ShowExamplesAtStart")); }
-
-bool diBRVBLib::allows_training() const { return to_boolean(call(Product, "AllowsTraining")); }
-
-Value diBRVBLib::machine_value(std::string_view name) const { return call(Product, "MachineValue", {name}); }
 
 void diBRVBLib::command_bracket(bool ended) const { call(Product, "CommandBracket", {ended, constant(0)}); }
 

@@ -33,12 +33,6 @@ class diBRVBLib : public LibraryBridge {
 
     [[nodiscard]] std::string constant(std::int32_t index) const;
 
-    // Whether the examples workbook is to be shown at this start.
-    [[nodiscard]] bool show_examples_at_start() const;
-    // Whether the tutorial menu may be shown.
-    [[nodiscard]] bool allows_training() const;
-    // A machine-wide product value ("TT", "LessonPath"); Empty when it is absent.
-    [[nodiscard]] automation::Value machine_value(std::string_view name) const;
     // Before a command (false) and after it (true).
     void command_bracket(bool ended) const;
 

@@ -1,0 +1,42 @@
+#include "core/iGlobal.h"
+
+#include "core/Dispatcher.h"
+#include "core/iGlobalInterface.h"
+#include "styles/commands/StyleCycleCommands.h"
+
+namespace kestrune::core {
+namespace {
+
+using automation::MemberTable;
+
+// A member that the interface does not name does not compile.
+consteval std::int32_t id(std::string_view member) {
+    if (iglobal_id(member) == 0) throw "iGlobal has no such member";
+    return iglobal_id(member);
+}
+
+}  // namespace
+
+bool iGlobal::run_macro(const automation::Value& request) const {
+    // The caller's variable may change while the command runs, and the last reference to this object go.
+    const auto shared = shared_;
+    const automation::Value asked = request;
+    return dispatch(*shared, asked);
+}
+
+void iGlobal::apply_smart_cycle_style(std::int32_t cycle, std::int32_t position,
+                                      const automation::ObjectRef& range) const {
+    const auto shared = shared_;
+    styles::ApplySmartCycleStyle(*shared, cycle, position, range);
+}
+
+const MemberTable& iGlobal::members() {
+    static constexpr auto rows = automation::member_rows(
+        automation::method<&iGlobal::run_macro>("RunMacro", id("RunMacro"), "Request"),
+        automation::method<&iGlobal::apply_smart_cycle_style>("ApplySmartCycleStyle", id("ApplySmartCycleStyle"),
+                                                              "CycleNumber, Position, Range"));
+    static constexpr MemberTable table("iGlobal", rows);
+    return table;
+}
+
+}  // namespace kestrune::core

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <utility>
+
+#include "automation/MemberTable.h"
+#include "core/bridges/SharedState.h"
+
+namespace kestrune::core {
+
+// The command object: every menu item, button and key ends in one of its members. All objects share one state, and
+// outlive it: after shut-down, or a start-up that failed, their members do nothing.
+class iGlobal : public automation::Served<iGlobal> {
+  public:
+    explicit iGlobal(std::shared_ptr<SharedState> shared) : shared_(std::move(shared)) {}
+    static const automation::MemberTable& members();
+
+  private:
+    // Runs a numbered command ("19", "20.3"); whether one could run.
+    bool run_macro(const automation::Value& request) const;
+    // Applies one step (from 1) of a user style SmartCycle (1 to 15) to a range.
+    void apply_smart_cycle_style(std::int32_t cycle, std::int32_t position, const automation::ObjectRef& range) const;
+
+    std::shared_ptr<SharedState> shared_;
+};
+
+}  // namespace kestrune::core

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "automation/Trace.h"
+#include "forms/Presenter.h"
+
+namespace kestrune::core {
+
+// Lets CreateObject("KestruneXL.iPublic") make the add-in's entry object. All objects made share one state, as in
+// one loaded component. The presenter and the trace outlive every object made.
+void register_add_in(forms::Presenter& presenter, const automation::Trace& trace);
+
+}  // namespace kestrune::core

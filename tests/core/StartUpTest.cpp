@@ -1,0 +1,87 @@
+#include "core/AddInTest.h"
+
+namespace kestrune::core {
+namespace {
+
+using automation::call;
+using automation::ObjectRef;
+using automation::to_object;
+using automation::Value;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+struct StartUpTest : AddInTest {};
+
+TEST_F(StartUpTest, GivesCommandObjectsThatShareOneState) {
+    entry = create_public();
+    EXPECT_EQ(to_object(call(*entry, "NewGlobal")), nullptr) << "before NewPublic";
+    EXPECT_EQ(to_object(call(*entry, "NewPublic", {application, add_in_workbook})), entry);
+    global = to_object(call(*entry, "NewGlobal"));
+    const ObjectRef other = to_object(call(*entry, "NewGlobal"));
+    ASSERT_TRUE(global && other);
+    EXPECT_NE(global, other);
+    EXPECT_EQ(call(*other, "RunMacro", {"87"}), Value(true));
+    EXPECT_TRUE(run("87"));
+    EXPECT_EQ(application->window->zoom, 110);
+    EXPECT_THAT(presenter.messages(), IsEmpty());
+    EXPECT_THAT(skipped, IsEmpty());
+}
+
+TEST_F(StartUpTest, StartsOnce) {
+    watch("BRVBLib");
+    start();
+    EXPECT_EQ(to_object(call(*entry, "NewPublic", {nullptr, nullptr})), entry);
+    EXPECT_THAT(log, IsEmpty());
+    EXPECT_TRUE(run("87"));
+}
+
+TEST_F(StartUpTest, TellsWhichLibraryIsMissing) {
+    const auto messages_without = [&](std::initializer_list<const char*> libraries) {
+        for (const char* name : libraries) automation::unregister_class(name);
+        const std::size_t shown = presenter.messages().size();
+        start();
+        EXPECT_FALSE(run("87"));
+        EXPECT_EQ(call(*global, "ApplySmartCycleStyle", {1, 1, application}), Value()) << "fails silently";
+        std::vector<std::string> texts;
+        for (std::size_t i = shown; i < presenter.messages().size(); ++i) {
+            const forms::Message& message = presenter.messages()[i];
+            EXPECT_EQ(message.buttons, 16);
+            EXPECT_EQ(message.caption, "Brannoch Kestrune");
+            texts.push_back(message.text);
+        }
+        return texts;
+    };
+    EXPECT_THAT(messages_without({"BRXLLib.iPublic"}),
+                ElementsAre("Unable to load the BR Excel Library from Kestrune.  Please contact technical support."));
+    EXPECT_THAT(messages_without({"BRVBLib.iPublic"}),
+                ElementsAre("Unable to load the Brannoch VB Library from Kestrune.  Please contact technical support."))
+        << "both are missing now, and one message is enough";
+}
+
+TEST_F(StartUpTest, RegistersWithBothLibraries) {
+    watch("BRVBLib");
+    watch("BRXLLib");
+    entry = create_public();
+    call(*entry, "NewPublic", {application, add_in_workbook});
+    EXPECT_THAT(log, ElementsAre("BRVBLib.iProduct.RegisterClient(KestruneXL,Kestrune,Brannoch Kestrune)",
+                                 "BRXLLib.iProduct.RegisterClient(KestruneXL,Kestrune,Brannoch Kestrune)",
+                                 "BRXLLib.SetApplication(object)", "BRVBLib.SetApplication(object)"));
+}
+
+TEST_F(StartUpTest, LetsGoOfEverythingInOrder) {
+    watch("BRVBLib");
+    watch("BRXLLib");
+    start();
+    const std::weak_ptr<fake::Application> excel = application;
+    application = nullptr;
+    add_in_workbook = nullptr;
+    entry = nullptr;
+    EXPECT_TRUE(excel.expired()) << "the libraries let go of Excel as well";
+    EXPECT_THAT(log, ElementsAre("companion released", "BRXLLib.UnregisterClient(KestruneXL)", "model released",
+                                 "BRVBLib.UnregisterClient(KestruneXL)"))
+        << "Excel goes with its workbook when the last library lets go of it";
+    EXPECT_FALSE(run("87")) << "a command object that outlives the add-in does nothing";
+}
+
+}  // namespace
+}  // namespace kestrune::core
