@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <tuple>
 #include <utility>
 
 #include "host/number_format/SectionText.h"
@@ -49,23 +50,26 @@ void SectionText::append_fraction(double size) {
     double whole = whole_part;
     std::int64_t numerator = 0;
     std::int64_t denominator = 1;
-    // Past nine digits in front of the point there is no fraction left to show, only digits.
-    if (rest >= 1e9) {
-        whole = std::round(size);
+    if (fixed != section_.items.end()) denominator = fixed->count;
+    // Digits past 15 are gone anyway: the numerator of a huge number is written from its decimal digits.
+    const double over = std::floor(rest * static_cast<double>(denominator) + 0.5);
+    const bool huge = over >= 1e9;
+    if (huge) {
+        numerator = 1;
     } else if (fixed != section_.items.end()) {
-        denominator = fixed->count;
-        numerator = static_cast<std::int64_t>(std::floor(rest * static_cast<double>(denominator) + 0.5));
+        numerator = static_cast<std::int64_t>(over);
     } else {
         const auto largest = static_cast<std::int64_t>(std::pow(10.0, std::min(denominator_digits, 7))) - 1;
         std::tie(numerator, denominator) = nearest_fraction(rest, largest);
     }
     if (section_.integer_digits > 0 && numerator >= denominator) {
-        whole += static_cast<double>(numerator / denominator);
+        const std::int64_t carried = numerator / denominator;
+        whole += static_cast<double>(carried);
         numerator %= denominator;
     }
     Decimal whole_number(whole);
     std::string whole_digits = whole_number.integer_digits();
-    const std::string upper = fmt::format("{}", numerator);
+    const std::string upper = huge ? Decimal(over).integer_digits() : fmt::format("{}", numerator);
     const std::string lower = fmt::format("{}", denominator);
     // Without anything behind the whole number, the place of the fraction stays blank; a lone zero is shown.
     const bool blank =
