@@ -1,8 +1,7 @@
 #include "formula/A1.h"
 
-#include <fmt/format.h>
-
-#include <iterator>
+#include <array>
+#include <charconv>
 
 #include "formula/Characters.h"
 #include "formula/Column.h"
@@ -12,7 +11,8 @@ namespace {
 
 void append_row(std::string& out, Coordinate row) {
     if (row.absolute) out += '$';
-    fmt::format_to(std::back_inserter(out), "{}", row.value);
+    std::array<char, 12> digits{};
+    out.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), row.value).ptr);
 }
 
 void append_column(std::string& out, Coordinate column) {

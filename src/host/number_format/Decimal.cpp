@@ -1,7 +1,5 @@
 #include "host/number_format/Decimal.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -26,7 +24,9 @@ Decimal::Decimal(double value) : negative_(std::signbit(value)) {
         point_ = count_ = static_cast<int>(end - digits_.data());
     } else {
         std::array<char, 40> text{};
-        const auto end = fmt::format_to_n(text.data(), text.size(), "{:.{}e}", size, max_digits - 1).out;
+        const auto end =
+            std::to_chars(text.data(), text.data() + text.size(), size, std::chars_format::scientific, max_digits - 1)
+                .ptr;
         digits_[0] = text[0];
         std::copy_n(text.data() + 2, max_digits - 1, digits_.data() + 1);  // behind "d."
         int exponent = 0;
