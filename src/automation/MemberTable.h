@@ -95,12 +95,14 @@ constexpr Parameter take_parameter(std::string_view& list) {
     return {name, optional};
 }
 
-consteval void check(bool holds) {
+// Called while a table is made at compile time, where the throw does not compile. Constexpr rather than consteval,
+// as all that the row functions below call: clang before 17 refuses consteval calls from consteval templates.
+constexpr void check(bool holds) {
     if (!holds) throw "a member table row is wrong";
 }
 
 template <class F>
-consteval Member describe(std::string_view name, std::int32_t id, std::string_view parameters) {
+constexpr Member describe(std::string_view name, std::int32_t id, std::string_view parameters) {
     Member member;
     member.name = name;
     member.id = id;
@@ -137,7 +139,8 @@ consteval Member read_only(std::string_view name, std::int32_t id, std::string_v
 
 template <auto Getter, auto Setter>
 consteval Member property(std::string_view name, std::int32_t id, std::string_view parameters = {}) {
-    Member member = read_only<Getter>(name, id, parameters);
+    Member member = detail::describe<decltype(Getter)>(name, id, parameters);
+    member.run = &detail::thunk<Getter>;
     detail::check(detail::FunctionShape<decltype(Setter)>::arity == member.parameter_count + 1U);
     member.set = &detail::thunk<Setter>;
     return member;

@@ -18,10 +18,9 @@ consteval std::int32_t id(std::string_view member) {
 }  // namespace
 
 bool iGlobal::run_macro(const automation::Value& request) const {
-    // The caller's variable may change while the command runs, and the last reference to this object go.
+    // Held, since the last reference to this object may go while the command runs.
     const auto shared = shared_;
-    const automation::Value asked = request;
-    return dispatch(*shared, asked);
+    return dispatch(*shared, request);
 }
 
 void iGlobal::apply_smart_cycle_style(std::int32_t cycle, std::int32_t position,
