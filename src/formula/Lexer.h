@@ -49,7 +49,7 @@ struct Token {
 };
 
 // Cuts a formula, with or without its leading "=", as files and the object model's English spelling have it
-// (ECMA-376 part 1, 18.17.2), plus what Excel added since: @, # and the newer errors. Any bytes can be cut; what cannot
+// (ECMA-376, 18.17.2), plus what Excel added since: @, # and the newer errors. Any bytes can be cut; what cannot
 // be part of a formula comes out as invalid tokens. Takes time in proportion to the text and allocates nothing. The
 // text must outlive the lexer.
 class Lexer {

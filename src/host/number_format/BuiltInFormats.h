@@ -5,7 +5,7 @@
 
 namespace kestrune::host {
 
-// The code of a number format that files name by id alone (ECMA-376 part 1, 18.8.30), as an English Excel's object
+// The code of a number format that files name by id alone (ECMA-376, 18.8.30), as an English Excel's object
 // model spells it. Empty for ids that name none. Ids 27 to 36 and 50 to 58 are East Asian dates and times, which an
 // English Excel shows in its own.
 [[nodiscard]] std::string_view built_in_format(int id);

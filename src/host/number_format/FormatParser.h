@@ -14,7 +14,7 @@ struct ParsedFormat {
     std::string error;  // one line, empty when the code is good
 };
 
-// Reads a code in en-US spelling (ECMA-376 part 1, 18.8.31).
+// Reads a code in en-US spelling (ECMA-376, 18.8.31).
 [[nodiscard]] ParsedFormat parse_format(std::string_view code);
 
 }  // namespace kestrune::host
