@@ -107,10 +107,17 @@ struct Package::State {
         return *item;
     }
 
-    std::string read(const Item& item, std::string_view name) const {
-        if (!item.packing.valid()) return inflate_part(view_of(*item.original), file, name);
+    std::string read(const Item& item, std::string_view name, bool original = false) const {
+        if (!item.packing.valid() || (original && item.original)) {
+            return inflate_part(view_of(*item.original), file, name);
+        }
         const Packing packing = item.packing;  // a copy: one shared_future is not for several threads
         return inflate_part(view_of(packing.get()), file, name);
+    }
+
+    void refuse_beyond(std::uint64_t limit, std::uint64_t size, std::string_view name) const {
+        if (size <= limit) return;
+        fail(name, fmt::format("holds {} MiB, and {} MiB is the limit here", size >> 20, limit >> 20));
     }
 
     pugi::xml_document tree(std::string_view name) const {
@@ -236,10 +243,14 @@ std::string Package::read(std::string_view name) const { return state_->read(sta
 
 XmlText Package::read_xml(std::string_view name, std::uint64_t limit) const {
     const Item& item = state_->at(name);
-    if (const std::uint64_t size = state_->parts[item.part].size; size > limit) {
-        state_->fail(name, fmt::format("holds {} MiB, and {} MiB is the limit here", size >> 20, limit >> 20));
-    }
+    state_->refuse_beyond(limit, state_->parts[item.part].size, name);
     return xml_text_of(state_->read(item, name), state_->file, name);
+}
+
+XmlText Package::read_original_xml(std::string_view name, std::uint64_t limit) const {
+    const Item& item = state_->at(name);
+    state_->refuse_beyond(limit, item.original ? item.original->size : state_->parts[item.part].size, name);
+    return xml_text_of(state_->read(item, name, true), state_->file, name);
 }
 
 std::string Package::content_type(std::string_view name) const {

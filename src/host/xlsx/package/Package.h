@@ -51,6 +51,8 @@ class Package {
     bool has(std::string_view name) const;
     /// The part inflated; its size and checksum are verified.
     std::string read(std::string_view name) const;
+    /// The part as the file had it, whatever replaced it since; an added part as it is.
+    XmlText read_original_xml(std::string_view name, std::uint64_t limit = std::uint64_t{2} << 30) const;
     /// The part as UTF-8, whatever it is stored in. Parts beyond `limit` bytes are refused.
     XmlText read_xml(std::string_view name, std::uint64_t limit = std::uint64_t{2} << 30) const;
     /// The content type of a part that exists; empty when neither an override nor a default tells it.

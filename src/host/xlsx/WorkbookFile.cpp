@@ -1,0 +1,151 @@
+#include "host/xlsx/WorkbookFile.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <utility>
+
+#include "host/xlsx/SheetReader.h"
+#include "host/xlsx/SheetWriter.h"
+#include "host/xlsx/StringsReader.h"
+#include "host/xlsx/ThemePart.h"
+#include "host/xlsx/WorkbookPart.h"
+
+namespace kestrune::host {
+namespace {
+
+constexpr std::string_view StylesContentType = "application/vnd.openxmlformats-officedocument.spreadsheetml.styles+xml";
+
+// A part's new bytes in the file's own way: UTF-16 becomes UTF-8, a byte order mark stays.
+std::string encoded(std::string text, XmlEncoding encoding) {
+    if (encoding == XmlEncoding::Utf8WithMark) text.insert(0, "\xEF\xBB\xBF");
+    return text;
+}
+
+// The part that a relationship leads to; empty when there is none, or it is missing.
+std::string related_part(const Package& package, std::string_view from, std::string_view kind) {
+    const Relationship relationship = package.relationship(from, kind);
+    return !relationship.external && package.has(relationship.target) ? relationship.target : std::string();
+}
+
+}  // namespace
+
+std::unique_ptr<WorkbookFile> WorkbookFile::open(const std::string& path) {
+    return std::make_unique<WorkbookFile>(Package::open(path));
+}
+
+WorkbookFile::WorkbookFile(Package package) : package_(std::move(package)) {
+    const std::filesystem::path path(package_.file());
+    book_.name = path.filename().string();
+    std::error_code ignored;
+    const auto absolute = std::filesystem::absolute(path, ignored);
+    book_.path = ignored ? std::string() : absolute.parent_path().string();
+
+    const auto main = package_.workbook_part();
+    for (auto& part : read_workbook_part(package_, book_)) sheets_.push_back({std::move(part), {}, false});
+    active_in_file_ = book_.active_sheet;
+    if (const auto theme = related_part(package_, main, "theme"); !theme.empty())
+        book_.theme = read_theme(package_, theme);
+    styles_part_ = related_part(package_, main, "styles");
+    styles_in_file_ = !styles_part_.empty();
+    if (styles_in_file_) {
+        styles_ = read_styles(package_, styles_part_, book_);
+    } else {
+        book_.styles = StyleTable::defaults();
+    }
+    if (const auto strings = related_part(package_, main, "sharedStrings"); !strings.empty()) {
+        book_.strings.load_with([this, strings](StringTable& table) {
+            try {
+                read_strings(package_, strings, table);
+            } catch (...) {
+                failure_ = std::current_exception();
+                throw;
+            }
+        });
+    }
+    for (std::size_t i = 0; i < sheets_.size(); ++i) {
+        if (book_.sheets()[i]->kind() != SheetKind::Worksheet) continue;
+        book_.sheets()[i]->load_with([this, i](Sheet& sheet) { load(i, sheet); });
+    }
+}
+
+void WorkbookFile::load(std::size_t position, Sheet& sheet) {
+    try {
+        sheets_[position].layout = read_sheet(package_, sheets_[position].name, sheet);
+    } catch (...) {
+        failure_ = std::current_exception();
+        throw;
+    }
+}
+
+void WorkbookFile::update() {
+    if (failure_) std::rethrow_exception(failure_);
+    update_sheets();
+    if (book_.active_sheet_changed) update_tabs();
+    if (styles_changed(book_, styles_)) update_styles();
+    if (workbook_part_changed(book_)) {
+        const auto main = package_.workbook_part();
+        XmlText xml = package_.read_original_xml(main);
+        package_.replace(main, encoded(write_workbook_part(std::move(xml.text), book_), xml.encoding));
+    }
+}
+
+void WorkbookFile::update_sheets() {
+    bool formulas_changed = false;
+    for (std::size_t i = 0; i < sheets_.size(); ++i) {
+        Sheet& sheet = *book_.sheets()[i];
+        if (sheet.kind() != SheetKind::Worksheet || !sheet.loaded() || !sheet.changed()) continue;
+        XmlText xml = package_.read_original_xml(sheets_[i].name);
+        SheetText written = write_sheet(std::move(xml.text), sheet, sheets_[i].layout, styles_.formats);
+        formulas_changed = formulas_changed || written.formulas_changed;
+        package_.replace(sheets_[i].name, encoded(std::move(written.text), xml.encoding));
+        sheets_[i].rewritten = true;
+    }
+    if (formulas_changed) drop_calculation_chain();
+}
+
+void WorkbookFile::update_tabs() {
+    for (std::size_t i = 0; i < sheets_.size(); ++i) {
+        const auto position = static_cast<std::int32_t>(i);
+        if (position != active_in_file_ && position != book_.active_sheet) continue;
+        XmlText xml =
+            sheets_[i].rewritten ? package_.read_xml(sheets_[i].name) : package_.read_original_xml(sheets_[i].name);
+        package_.replace(sheets_[i].name,
+                         encoded(with_tab_selected(xml.text, position == book_.active_sheet), xml.encoding));
+    }
+}
+
+void WorkbookFile::update_styles() {
+    const bool strict = package_.is_strict();
+    if (styles_in_file_) {
+        XmlText xml = package_.read_original_xml(styles_part_);
+        package_.replace(styles_part_, encoded(write_styles(std::move(xml.text), book_, styles_), xml.encoding));
+        return;
+    }
+    std::string text = write_styles(empty_styles(strict), book_, styles_);
+    if (!styles_part_.empty()) {
+        package_.replace(styles_part_, std::move(text));
+        return;
+    }
+    const auto main = package_.workbook_part();
+    const auto slash = main.rfind('/');
+    styles_part_ = main.substr(0, slash == std::string::npos ? 0 : slash + 1) + "styles.xml";
+    package_.add(styles_part_, StylesContentType, std::move(text));
+    package_.add_relationship(main, std::string(strict ? StrictRelationships : TransitionalRelationships) + "styles",
+                              styles_part_);
+}
+
+// The chain lists every cell with a formula; Excel repairs a file whose chain is wrong, and makes a missing one anew.
+void WorkbookFile::drop_calculation_chain() {
+    const auto main = package_.workbook_part();
+    const Relationship chain = package_.relationship(main, "calcChain");
+    if (chain.id.empty()) return;
+    package_.remove_relationship(main, chain.id);
+    if (!chain.external && package_.has(chain.target)) package_.remove(chain.target);
+}
+
+void WorkbookFile::save(const std::string& path) {
+    update();
+    package_.save(path);
+}
+
+}  // namespace kestrune::host

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <exception>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "host/model/Workbook.h"
+#include "host/xlsx/SheetLayout.h"
+#include "host/xlsx/StylesPart.h"
+#include "host/xlsx/package/Package.h"
+
+namespace kestrune::host {
+
+// A workbook and the .xlsx or .xlsm file that it stands in.
+//
+// Opening reads what every sheet needs (sheets' names, names, styles, theme). A sheet's own part, and the shared
+// strings, are read when the workbook is first asked for something in them; a fault there is a PackageError at that
+// time, and saving is refused from then on. Saving writes only parts that changed, and inside them only what changed:
+// everything that the model does not know stays as it was, to the byte.
+class WorkbookFile {
+  public:
+    // Every file that is no workbook, or a broken one, is a PackageError.
+    [[nodiscard]] static std::unique_ptr<WorkbookFile> open(const std::string& path);
+    // The same over a package at hand.
+    explicit WorkbookFile(Package package);
+    WorkbookFile(const WorkbookFile&) = delete;
+    WorkbookFile& operator=(const WorkbookFile&) = delete;
+
+    [[nodiscard]] Workbook& workbook() { return book_; }
+    [[nodiscard]] const Package& package() const { return package_; }
+
+    // Brings the package up to date with the workbook, without writing a file.
+    void update();
+    // The same, then writes the file whole or not at all. Without a change the bytes that were read are written.
+    // May be called again after further changes.
+    void save(const std::string& path);
+
+  private:
+    struct SheetPart {
+        std::string name;
+        SheetLayout layout;
+        bool rewritten = false;
+    };
+
+    void load(std::size_t position, Sheet& sheet);
+    void update_sheets();
+    void update_tabs();
+    void update_styles();
+    void drop_calculation_chain();
+
+    Package package_;
+    Workbook book_;
+    std::vector<SheetPart> sheets_;
+    std::string styles_part_;  // empty: there is none
+    bool styles_in_file_ = false;
+    StylesLayout styles_;
+    std::int32_t active_in_file_ = 0;
+    std::exception_ptr failure_;  // of a part that was read late
+};
+
+}  // namespace kestrune::host
