@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,7 @@
 
 namespace kestrune::host {
 
+class Restyling;
 class Workbook;
 
 // A cell's content as it goes in and comes out; the string is held, not its number.
@@ -34,6 +36,7 @@ struct CellContent {
     static CellContent of(const char* text) { return of(std::string(text)); }  // else it would be a truth value
 };
 
+// Where a format shows without content: a blank cell of a column, or a whole row.
 struct BlankCell {
     std::int32_t row;
     StyleId style;
@@ -88,7 +91,7 @@ class Sheet {
         std::int32_t column,
         const Cell& cell);  // rows ascending within each column, else the column is sorted after loading
     std::uint32_t add_loaded_formula(Formula formula);  // the number for Cell::formula
-    std::map<std::int32_t, RowFormat>& loaded_rows() { return rows_; }
+    std::map<std::int32_t, RowFormat>& loaded_rows();
 
     // Cells. Reading never creates; 1-based positions on the sheet.
     [[nodiscard]] const Cell* find(Position at);
@@ -140,6 +143,7 @@ class Sheet {
     [[nodiscard]] std::int32_t default_column_pixels() const;
     void set_column_width(std::int32_t first, std::int32_t last, double characters);
     [[nodiscard]] const RowFormat* row_format(std::int32_t row);  // null for a plain row
+    // change is also tried on a plain row, to see whether rows without a format get one.
     void change_rows(std::int32_t first, std::int32_t last, const std::function<void(RowFormat&)>& change);
     [[nodiscard]] const std::map<std::int32_t, RowFormat>& row_formats();
     [[nodiscard]] ColumnRuns& columns();
@@ -155,7 +159,8 @@ class Sheet {
     // Merged areas; they never overlap.
     [[nodiscard]] const std::vector<Area>& merges();
     std::vector<Area>& loaded_merges() { return merges_; }
-    void merge(const Area& area);    // keeps the top-left content only
+    // Keeps the upper-left content only and shows it in the corner; the formats stay. ModelError with an array in it.
+    void merge(const Area& area);
     void unmerge(const Area& area);  // splits every merged area that the area touches
     [[nodiscard]] std::optional<Area> merge_at(Position at);
 
@@ -185,8 +190,25 @@ class Sheet {
     [[nodiscard]] RowFormat new_row_format() const;
     Cell& cell_for_content(Position at);
     [[nodiscard]] const Formula* live_array_at(Position at) const;
-    void before_overwriting(Cell& cell, Position at);
+    [[nodiscard]] bool array_is_live(std::uint32_t index) const;
+    void before_overwriting(const Cell& cell, Position at);
+    void make_blank(Cell& cell);
+    [[nodiscard]] bool holds(const Cell& cell, const CellContent& content);
     void value_changed();
+    // The rows that have a style, ascending; quick to ask however many rows have a height of their own.
+    [[nodiscard]] const std::vector<BlankCell>& styled_rows();
+    [[nodiscard]] std::span<const BlankCell> styled_rows_in(std::int32_t first, std::int32_t last);
+    void move_first_content(const Area& area, Position corner);
+    // Whether a position without a cell shows its column's format between these rows, in any of these columns.
+    [[nodiscard]] bool shows_column_format(const Area& area);
+    // Whether a row without a cell somewhere between these columns shows its own.
+    [[nodiscard]] bool has_blank(std::int32_t row, std::int32_t first_column, std::int32_t last_column) const;
+    template <class Visit>
+    void visit_beside(std::int32_t column, std::int32_t first_row, std::int32_t last_row, Visit&& visit);
+    template <class Visit>
+    void visit_below(std::int32_t column, std::int32_t first_row, std::int32_t last_row, Visit&& visit);
+    [[nodiscard]] std::vector<std::int32_t> telling_columns(std::int32_t first, std::int32_t last);
+    friend class Restyling;
 
     Workbook& workbook_;
     std::string name_;
@@ -197,6 +219,8 @@ class Sheet {
     std::vector<std::unique_ptr<CellColumn>> cells_;
     std::vector<Formula> formulas_;
     std::map<std::int32_t, RowFormat> rows_;
+    std::vector<BlankCell> styled_rows_;
+    bool styled_rows_known_ = false;
     ColumnRuns columns_;
     std::vector<Area> merges_;
     std::vector<ConditionalFormat> conditional_formats_;

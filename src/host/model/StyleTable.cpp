@@ -1,9 +1,10 @@
 #include "host/model/StyleTable.h"
 
-#include <algorithm>
+#include <array>
 #include <utility>
 
-#include "host/model/BuiltInNumberFormats.h"
+#include "formula/Characters.h"
+#include "host/number_format/BuiltInFormats.h"
 
 namespace kestrune::host {
 namespace {
@@ -41,20 +42,26 @@ StyleTable StyleTable::defaults() {
 }
 
 const std::string& StyleTable::number_format(std::uint32_t number) const {
-    static const std::string general = "General";
+    static const auto built_in = [] {
+        std::array<std::string, first_custom_number> codes;
+        for (std::size_t id = 0; id < codes.size(); ++id) codes[id] = built_in_format(static_cast<int>(id));
+        return codes;
+    }();
     if (const auto custom = number_formats_.find(number); custom != number_formats_.end()) return custom->second;
-    const std::string* built_in = built_in_number_format(number);
-    return built_in ? *built_in : general;
+    return number < built_in.size() && !built_in[number].empty() ? built_in[number] : built_in[0];
 }
 
 std::uint32_t StyleTable::intern_number_format(std::string_view code) {
+    if (formula::equal_ignoring_case(code, "General")) code = "General";
     std::string key(code);
     if (const auto known = numbers_by_code_.find(key); known != numbers_by_code_.end()) return known->second;
     // A file may give a built-in number a code of its own (currencies of other countries): then it is taken.
-    if (const auto built_in = built_in_number_format_of(code); built_in && !number_formats_.contains(*built_in))
-        return *built_in;
+    if (const auto id = built_in_format_id(code)) {
+        const auto built_in = static_cast<std::uint32_t>(*id);
+        if (!number_formats_.contains(built_in)) return built_in;
+    }
     std::uint32_t number = first_custom_number;
-    for (const auto& [taken, _] : number_formats_) number = std::max(number, taken + 1);
+    while (number_formats_.contains(number)) ++number;
     load_number_format(number, std::move(key));
     return number;
 }
