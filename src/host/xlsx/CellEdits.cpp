@@ -266,7 +266,7 @@ void CellEdits::write_new_cells() {
     } else {
         // The end tag stands right before the end of the extent; nothing in between needs to be read again.
         const auto stop = layout_.children[static_cast<std::size_t>(layout_.sheet_data)].end;
-        edits_.insert(text_.rfind("</", stop), at_end);
+        edits_.insert(text_.rfind("</", stop - 1), at_end);
     }
 }
 

@@ -123,7 +123,9 @@ void SheetEdits::standard_sizes() const {
     for (const auto& run : sheet.columns().runs()) columns = std::max(columns, run.outline_level);
     const auto element = child("sheetFormatPr");
     if (!element) {
-        const bool usual = rows == 0 && columns == 0 && !sheet.sheet_format_changed;
+        const bool usual = rows == 0 && columns == 0 && sheet.base_column_width == 8 &&
+                           sheet.default_column_width < 0 && sheet.default_row_height == 15 &&
+                           !sheet.custom_default_height && !sheet.zero_height;
         if (usual) return;
         std::string source = fmt::format("<{}sheetFormatPr", prefix());
         if (sheet.base_column_width != 8) source += fmt::format(" baseColWidth=\"{}\"", sheet.base_column_width);
