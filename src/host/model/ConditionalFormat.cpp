@@ -1,11 +1,21 @@
 #include "host/model/ConditionalFormat.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "formula/Shift.h"
 #include "host/model/AreaCut.h"
 #include "host/model/Sheet.h"
 
 namespace kestrune::host {
+
+formula::Position ConditionalFormat::anchor() const {
+    if (areas.empty()) return {};
+    formula::Position corner = areas.front().top_left();
+    for (const formula::Area& area : areas)
+        corner = {std::min(corner.row, area.first_row), std::min(corner.column, area.first_column)};
+    return corner;
+}
 
 std::vector<ConditionalFormat>& Sheet::conditional_formats() {
     ensure_loaded();
@@ -25,8 +35,17 @@ void Sheet::delete_conditional_formats(const Area& area) {
             for (const Area& piece : area_without(held, area)) left.push_back(piece);
         }
         if (!cut) continue;
+        const Position before = format.anchor();
         format.areas = std::move(left);
         conditional_formats_changed = true;
+        if (format.areas.empty()) continue;
+        // What is left begins elsewhere, and its formulas are written for where it begins.
+        const Position after = format.anchor();
+        if (after == before) continue;
+        for (ConditionalRule& rule : format.rules)
+            for (std::string& text : rule.formulas)
+                text = formula::shift_formula(text, after.row - before.row, after.column - before.column,
+                                              formula::OffSheet::wrap);
     }
     if (conditional_formats_changed)
         std::erase_if(conditional_formats_, [](const ConditionalFormat& format) { return format.areas.empty(); });

@@ -27,7 +27,10 @@ struct ConditionalFormat {
     std::vector<ConditionalRule> rules;
     bool pivot = false;
     bool extension = false;  // stands in the sheet's extension list (x14), not among its own
-    std::string source;      // an extension's whole element as the file has it
+    // The cell that the rules' relative references are written for: the corner of all areas together.
+    [[nodiscard]] formula::Position anchor() const;
+
+    std::string source;  // an extension's whole element as the file has it
 };
 
 }  // namespace kestrune::host

@@ -138,7 +138,15 @@ std::vector<std::int32_t> Sheet::telling_columns(std::int32_t first, std::int32_
     return telling;
 }
 
-Line Sheet::edge_line(Position at, Edge edge) { return edge_lines(Area::cell(at), edge).front(); }
+Line Sheet::edge_line(Position at, Edge edge) {
+    const StyleTable& styles = workbook_.styles;
+    const Line& own = styles.border_of(style_at(at)).line(edge);
+    if (own.style != LineStyle::None) return own;
+    const Position neighbour = neighbour_of(at, edge);
+    if (!neighbour.on_sheet()) return {};
+    const Line& other = styles.border_of(style_at(neighbour)).line(facing(edge));
+    return other.style == LineStyle::None ? Line{} : other;
+}
 
 std::vector<Line> Sheet::edge_lines(const Area& area, Edge edge) {
     ensure_loaded();
