@@ -103,7 +103,7 @@ def cover_cells(layout):
         ("Revenue", "{revenue}"), ("EBITDA", "{ebitda}"), ("EBITDA margin", "{ebitda_margin}"),
         ("Net income", "{net_income}"), ("Free cash flow", "{free_flow}"), ("Net debt", "{net_debt}"),
         ("Net debt over EBITDA", "{leverage}"),
-    ]  # fmt: skip
+    ]
     rows = {1: ["=CompanyName"], 2: ["Three-statement model, $000 unless a line says otherwise"]}
     rows |= {row: list(fact) for row, fact in enumerate(facts, 4)}
     rows[9] = ["Results"] + [layout.filled("={fy}", "Cover", year) for year in (first, first + 1, last)]
@@ -127,7 +127,7 @@ def quarterly_cells(layout):
         ("Quarterly", 5, 2): ("date", False),
     }
     labels = {7: "Share of the year", 8: "Revenue", 9: "Gross profit", 10: "Operating expenses", 11: "EBITDA",
-              12: "EBITDA margin", 13: "Revenue, running total of the year"}  # fmt: skip
+              12: "EBITDA margin", 13: "Revenue, running total of the year"}
     for row, label in labels.items():
         cells["Quarterly", row, 1] = (label, row in (8, 11))
         cells["Quarterly", row, 2] = ("%" if row in (7, 12) else "$000", False)
@@ -203,7 +203,7 @@ def dress(book, sheets, layout, title):
     sheets["Inputs"].write_comment(
         scenario, "Everything that depends on the scenario goes through CHOOSE on this cell.",
         {"author": "Calder Vale"},
-    )  # fmt: skip
+    )
     rates = layout.lines["materials_rate"][1]
     sheets["Inputs"].data_validation(
         f"F{rates + 1}:{LAST}{rates + 3}", {"validate": "decimal", "criteria": "between", "minimum": 0, "maximum": 1}
@@ -225,8 +225,13 @@ def add_chart(book, sheet, layout):
     chart = book.add_chart({"type": "column"})
     line = book.add_chart({"type": "line"})
     categories = "=" + layout.block("fy")
-    for part, key, name in ((chart, "revenue", "Revenue"), (chart, "ebitda", "EBITDA"), (line, "ebitda_margin", "EBITDA margin")):
-        part.add_series({"name": name, "categories": categories, "values": "=" + layout.block(key), "y2_axis": part is line})
+    for part, key, label in (
+        (chart, "revenue", "Revenue"),
+        (chart, "ebitda", "EBITDA"),
+        (line, "ebitda_margin", "EBITDA margin"),
+    ):
+        values = "=" + layout.block(key)
+        part.add_series({"name": label, "categories": categories, "values": values, "y2_axis": part is line})
     chart.combine(line)
     chart.set_title({"name": "Revenue and EBITDA, $000"})
     line.set_y2_axis({"num_format": "0%"})
