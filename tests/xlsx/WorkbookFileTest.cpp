@@ -85,6 +85,9 @@ TEST(WorkbookFile, AFormatTouchesTheSheetAndTheStylesOnly) {
             R"(numFmtId="164" fontId="1" fillId="0" borderId="0" xfId="0" applyNumberFormat="1" applyFont="1"/></cellXfs>)"),
         std::string::npos)
         << styles;
+    EXPECT_NE(styles.find("<cellXfs count=\"6\">"), std::string::npos)
+        << "the format on the way to the last one is not written\n"
+        << styles;
     EXPECT_TRUE(styles.ends_with(R"(<colors><mruColors><color rgb="FF123456"/></mruColors></colors></styleSheet>)"));
 
     // Written again from the same file, and read back.

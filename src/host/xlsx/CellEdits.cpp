@@ -15,6 +15,8 @@
 namespace kestrune::host {
 namespace {
 
+constexpr std::size_t ahead = 12;  // cells; as far as memory takes to answer
+
 StyleId style_number(const XmlElement& element) {
     const auto attribute = element.attribute("s");
     StyleId style = 0;
@@ -24,13 +26,13 @@ StyleId style_number(const XmlElement& element) {
 
 }  // namespace
 
-CellEdits::CellEdits(std::string_view text, Sheet& sheet, const SheetLayout& layout, std::uint32_t formats,
+CellEdits::CellEdits(std::string_view text, Sheet& sheet, const SheetLayout& layout, const FileNumbers& formats,
                      TextEdits& edits)
     : text_(text),
       sheet_(sheet),
       layout_(layout),
-      row_xml_{sheet.default_row_height, formats},
-      total_formats_(sheet.workbook().styles.formats.size()),
+      row_xml_{sheet.default_row_height, formats.in_file()},
+      formats_(formats),
       edits_(edits) {
     if (layout.sheet_data >= 0)
         sheet_data_ = XmlElement(text, layout.children[static_cast<std::size_t>(layout.sheet_data)].begin);
@@ -51,7 +53,11 @@ void CellEdits::edit_cells() {
     for (const auto& cells : sheet_.cell_columns()) {
         ++column;
         if (!cells) continue;
-        for (const auto& cell : cells->cells) {
+        const auto& all = cells->cells;
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            // Going down a column leaps through the text from row to row: what comes soon is fetched ahead.
+            if (i + ahead < all.size()) __builtin_prefetch(text_.data() + all[i + ahead].source);
+            const Cell& cell = all[i];
             const Position at{cell.row, column};
             if (cell.source == 0) {
                 add_cell(at, cell);
@@ -65,7 +71,7 @@ void CellEdits::edit_cells() {
 
 void CellEdits::edit_cell(Position at, const Cell& cell) {
     const XmlElement element(text_, cell.source - 1);
-    edit_style(element, cell.style);
+    edit_style(element, formats_(cell.style));
     if ((cell.flags & Cell::content_changed) == 0) return;
     const bool had_formula = static_cast<bool>(element.child("f"));
     formulas_changed_ = formulas_changed_ || had_formula || cell.formula != 0;
@@ -82,7 +88,7 @@ void CellEdits::edit_style(const XmlElement& element, StyleId style) {
     // A number without a format shows the default one. It may stay until a format takes that number.
     const bool dangling = written >= row_xml_.formats;
     if (written == style && !dangling) return;
-    if (dangling && style == 0 && written >= total_formats_) return;
+    if (dangling && style == 0 && written >= formats_.size()) return;
     if (style == 0) {
         edits_.set_attribute(element, "s", std::nullopt);
     } else {
@@ -124,7 +130,10 @@ void CellEdits::remove_lost_cells() {
 
 RowFormat CellEdits::format_of(std::int32_t row) const {
     const RowFormat* format = sheet_.row_format(row);
-    return format == nullptr ? RowFormat() : *format;
+    if (format == nullptr) return {};
+    RowFormat in_file = *format;
+    in_file.style = formats_(in_file.style);
+    return in_file;
 }
 
 void CellEdits::add_cell(Position at, const Cell& cell) {
@@ -158,7 +167,8 @@ void CellEdits::give_reference(const XmlElement& element, const std::string& ref
 std::string CellEdits::cell_source(const NewCell& cell, std::string_view prefix) {
     std::string out("<");
     out.append(prefix).append("c r=\"").append(formula::cell_text(cell.at)).append("\"");
-    if (cell.cell->style != 0) out.append(" s=\"").append(std::to_string(cell.cell->style)).append("\"");
+    if (const auto style = formats_(cell.cell->style); style != 0)
+        out.append(" s=\"").append(std::to_string(style)).append("\"");
     const CellXml xml = cell_xml(sheet_, cell.at, *cell.cell, prefix);
     if (!xml.type.empty()) out.append(" t=\"").append(xml.type).append("\"");
     if (xml.content.empty()) {

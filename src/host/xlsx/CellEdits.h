@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "host/model/Sheet.h"
+#include "host/xlsx/FileNumbers.h"
 #include "host/xlsx/RowXml.h"
 #include "host/xlsx/SheetLayout.h"
 #include "host/xlsx/TextEdits.h"
@@ -16,8 +17,8 @@ namespace kestrune::host {
 // The edits that bring <sheetData> in line with a sheet's cells and rows.
 class CellEdits {
   public:
-    // `formats`: how many cell formats the file has.
-    CellEdits(std::string_view text, Sheet& sheet, const SheetLayout& layout, std::uint32_t formats, TextEdits& edits);
+    CellEdits(std::string_view text, Sheet& sheet, const SheetLayout& layout, const FileNumbers& formats,
+              TextEdits& edits);
 
     void run();
     [[nodiscard]] bool formulas_changed() const { return formulas_changed_; }
@@ -43,13 +44,13 @@ class CellEdits {
     [[nodiscard]] std::string cell_source(const NewCell& cell, std::string_view prefix);
     [[nodiscard]] std::string row_source(std::int32_t row, const NewCell* first, const NewCell* last);
     [[nodiscard]] const XmlElement& sheet_data();
-    [[nodiscard]] RowFormat format_of(std::int32_t row) const;
+    [[nodiscard]] RowFormat format_of(std::int32_t row) const;  // with the file's number of its style
 
     std::string_view text_;
     Sheet& sheet_;
     const SheetLayout& layout_;
     RowXml row_xml_;
-    std::uint32_t total_formats_;
+    const FileNumbers& formats_;
     TextEdits& edits_;
     XmlElement sheet_data_;
     std::string_view prefix_;

@@ -169,10 +169,11 @@ void SheetEdits::columns() const {
     };
     std::vector<Known> known;
     for (auto col = element ? element.first_child() : XmlElement(); col; col = col.next()) {
-        if (const auto run = read_column_run(col, formats)) known.push_back({*run, col});
+        if (const auto run = read_column_run(col, formats.in_file())) known.push_back({*run, col});
     }
     std::string source;
-    for (const auto& run : sheet.columns().runs()) {
+    for (ColumnRun run : sheet.columns().runs()) {
+        run.style = formats(run.style);
         const auto same = std::find_if(known.begin(), known.end(), [&](const Known& one) {
             return one.run.first == run.first && one.run.last == run.last && one.run.same_format(run);
         });

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "host/model/Sheet.h"
+#include "host/xlsx/FileNumbers.h"
 #include "host/xlsx/SheetLayout.h"
 #include "host/xlsx/TextEdits.h"
 
@@ -15,7 +16,7 @@ struct SheetEdits {
     std::string_view text;
     Sheet& sheet;
     const SheetLayout& layout;
-    std::uint32_t formats;  // how many cell formats the file has
+    const FileNumbers& formats;
     TextEdits& edits;
 
     void properties() const;                                 // outline directions

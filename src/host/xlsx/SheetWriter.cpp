@@ -6,7 +6,16 @@
 
 namespace kestrune::host {
 
-SheetText write_sheet(std::string text, Sheet& sheet, const SheetLayout& layout, std::uint32_t formats) {
+void use_formats(Sheet& sheet, FileNumbers& formats) {
+    for (const auto& cells : sheet.cell_columns()) {
+        if (!cells) continue;
+        for (const auto& cell : cells->cells) formats.use(cell.style);
+    }
+    for (const auto& [row, format] : sheet.row_formats()) formats.use(format.style);
+    for (const auto& run : sheet.columns().runs()) formats.use(run.style);
+}
+
+SheetText write_sheet(std::string text, Sheet& sheet, const SheetLayout& layout, const FileNumbers& formats) {
     open_root(text);
     TextEdits edits;
     const SheetEdits part{text, sheet, layout, formats, edits};

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/model/Workbook.h"
+#include "host/xlsx/FileNumbers.h"
 #include "host/xlsx/package/Package.h"
 
 namespace kestrune::host {
@@ -25,11 +26,13 @@ struct StylesLayout {
 // file; numbers that lead out of a list read as its first entry.
 StylesLayout read_styles(const Package& package, const std::string& part, Workbook& book);
 
-// Whether the workbook holds formats, or colours, that the file does not.
-[[nodiscard]] bool styles_changed(const Workbook& book, const StylesLayout& layout);
+// Whether the part lacks something: formats in use, differential formats, colours.
+[[nodiscard]] bool styles_changed(const Workbook& book, const StylesLayout& layout, const FileNumbers& formats);
 
-// The part's text with the new entries at the ends of their lists; everything else stays to the byte.
-[[nodiscard]] std::string write_styles(std::string text, Workbook& book, const StylesLayout& layout);
+// The part's text with the formats in use, and what they are made of, at the ends of their lists; everything else stays
+// to the byte.
+[[nodiscard]] std::string write_styles(std::string text, Workbook& book, const StylesLayout& layout,
+                                       const FileNumbers& formats);
 
 // A styles part without an entry, for files that have none.
 [[nodiscard]] std::string empty_styles(bool strict);

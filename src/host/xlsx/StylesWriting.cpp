@@ -19,6 +19,37 @@ int styles_order(std::string_view local_name) {
     return found == order.end() ? -1 : static_cast<int>(found - order.begin());
 }
 
+// What the formats in use are made of.
+struct Pieces {
+    Pieces(const StyleTable& styles, const StylesLayout& layout)
+        : fonts(layout.fonts, styles.fonts.size()),
+          fills(layout.fills, styles.fills.size()),
+          borders(layout.borders, styles.borders.size()) {
+        // Lists that the file lacks begin with the entries that every file begins with.
+        fonts.use(0);
+        for (std::uint32_t i = 0; i < StyleTable::defaults().fills.size(); ++i) fills.use(i);
+        borders.use(0);
+    }
+
+    void use(const CellFormat& format) {
+        fonts.use(format.font);
+        fills.use(format.fill);
+        borders.use(format.border);
+        number_formats.push_back(format.number_format);
+    }
+    [[nodiscard]] CellFormat numbered(CellFormat format) const {
+        format.font = fonts(format.font);
+        format.fill = fills(format.fill);
+        format.border = borders(format.border);
+        return format;
+    }
+
+    FileNumbers fonts;
+    FileNumbers fills;
+    FileNumbers borders;
+    std::vector<std::uint32_t> number_formats;
+};
+
 class StylesWriter {
   public:
     StylesWriter(std::string_view text, const Workbook& book) : root_(XmlElement::root(text)), book_(book) {}
@@ -42,19 +73,20 @@ class StylesWriter {
     }
 
     template <class List, class Append>
-    void extend(std::string_view name, const List& list, std::size_t loaded, Append&& append) {
+    void extend(std::string_view name, const List& list, const FileNumbers& numbers, Append&& append) {
         std::string entries;
-        for (std::size_t i = loaded; i < list.size(); ++i)
-            append(entries, root_.prefix(), list[static_cast<std::uint32_t>(i)]);
-        extend(name, entries, list.size() - std::min<std::size_t>(loaded, list.size()));
+        for (const auto position : numbers.added()) append(entries, root_.prefix(), list[position]);
+        extend(name, entries, numbers.added().size());
     }
 
-    void extend_number_formats(const std::vector<std::uint32_t>& loaded) {
-        std::vector<std::uint32_t> numbers;
-        for (const auto& [number, code] : book_.styles.custom_number_formats()) {
-            if (!std::binary_search(loaded.begin(), loaded.end(), number)) numbers.push_back(number);
-        }
+    // Those of the numbers that the file does not know.
+    void extend_number_formats(std::vector<std::uint32_t> numbers, const std::vector<std::uint32_t>& in_file) {
+        std::erase_if(numbers, [&](std::uint32_t number) {
+            return std::binary_search(in_file.begin(), in_file.end(), number) ||
+                   !book_.styles.custom_number_formats().contains(number);
+        });
         std::sort(numbers.begin(), numbers.end());
+        numbers.erase(std::unique(numbers.begin(), numbers.end()), numbers.end());
         std::string entries;
         for (const auto number : numbers) {
             entries.append("<").append(root_.prefix()).append("numFmt numFmtId=\"").append(std::to_string(number));
@@ -65,12 +97,14 @@ class StylesWriter {
         extend("numFmts", entries, numbers.size());
     }
 
-    void extend_named_styles(std::size_t loaded) {
+    template <class Numbered>
+    void extend_named_styles(std::size_t loaded, Numbered&& numbered) {
         const auto& styles = book_.styles.named_styles;
         std::string formats;
         std::string names;
         for (std::size_t i = loaded; i < styles.size(); ++i) {
-            append_cell_format(formats, root_.prefix(), styles[i].format, styles[i].format);
+            const CellFormat format = numbered(styles[i].format);
+            append_cell_format(formats, root_.prefix(), format, format);
             names.append("<").append(root_.prefix()).append("cellStyle name=\"");
             append_escaped_attribute(names, styles[i].name);
             names.append("\" xfId=\"").append(std::to_string(i));
@@ -134,35 +168,39 @@ class StylesWriter {
 
 }  // namespace
 
-bool styles_changed(const Workbook& book, const StylesLayout& layout) {
-    const StyleTable& styles = book.styles;
-    // Pieces that no format uses are no reason to write.
-    return styles.formats.size() > std::max<std::uint32_t>(layout.formats, 1) ||
-           styles.differentials.size() > layout.differentials || book.palette_changed;
+bool styles_changed(const Workbook& book, const StylesLayout& layout, const FileNumbers& formats) {
+    // A file without formats shows all cells in the default one without having it written down.
+    return formats.size() > std::max<std::uint32_t>(layout.formats, 1) ||
+           book.styles.differentials.size() > layout.differentials || book.palette_changed;
 }
 
-std::string write_styles(std::string text, Workbook& book, const StylesLayout& layout) {
+std::string write_styles(std::string text, Workbook& book, const StylesLayout& layout, const FileNumbers& formats) {
     open_root(text);
     StyleTable& styles = book.styles;
+    const auto& named = styles.named_styles;
+    Pieces pieces(styles, layout);
+    for (const auto position : formats.added()) pieces.use(styles.formats[position]);
+    for (std::size_t i = layout.named_styles; i < named.size(); ++i) pieces.use(named[i].format);
+
     std::string differentials;
     const auto prefix = XmlElement::root(text).prefix();
     for (std::uint32_t i = layout.differentials; i < styles.differentials.size(); ++i) {
-        const auto& format = styles.differentials[i];
+        const DifferentialFormat& format = styles.differentials[i];
         const auto number = format.number_format ? styles.intern_number_format(*format.number_format) : 0;
         append_differential(differentials, prefix, format, number);
+        pieces.number_formats.push_back(number);
     }
     StylesWriter writer(text, book);
-    writer.extend_number_formats(layout.number_formats);
-    writer.extend("fonts", styles.fonts, layout.fonts, append_font);
-    writer.extend("fills", styles.fills, layout.fills, append_fill);
-    writer.extend("borders", styles.borders, layout.borders, append_border);
-    writer.extend_named_styles(layout.named_styles);
-    writer.extend(
-        "cellXfs", styles.formats, layout.formats, [&](std::string& out, std::string_view p, const CellFormat& format) {
-            const auto& named = styles.named_styles;
-            const auto parent = format.named_style < named.size() ? named[format.named_style].format : CellFormat();
-            append_cell_format(out, p, format, parent);
-        });
+    const auto numbered = [&](const CellFormat& format) { return pieces.numbered(format); };
+    writer.extend_number_formats(pieces.number_formats, layout.number_formats);
+    writer.extend("fonts", styles.fonts, pieces.fonts, append_font);
+    writer.extend("fills", styles.fills, pieces.fills, append_fill);
+    writer.extend("borders", styles.borders, pieces.borders, append_border);
+    writer.extend_named_styles(layout.named_styles, numbered);
+    writer.extend("cellXfs", styles.formats, formats, [&](std::string& out, std::string_view p, const CellFormat& f) {
+        const CellFormat parent = f.named_style < named.size() ? named[f.named_style].format : CellFormat();
+        append_cell_format(out, p, numbered(f), numbered(parent));
+    });
     writer.extend("dxfs", differentials,
                   styles.differentials.size() - std::min(layout.differentials, styles.differentials.size()));
     if (book.palette_changed) writer.write_palette();

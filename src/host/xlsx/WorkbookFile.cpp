@@ -79,9 +79,10 @@ void WorkbookFile::load(std::size_t position, Sheet& sheet) {
 
 void WorkbookFile::update() {
     if (failure_) std::rethrow_exception(failure_);
-    update_sheets();
+    const FileNumbers formats = formats_in_use();
+    update_sheets(formats);
     if (book_.active_sheet_changed) update_tabs();
-    if (styles_changed(book_, styles_)) update_styles();
+    if (styles_changed(book_, styles_, formats)) update_styles(formats);
     if (workbook_part_changed(book_)) {
         const auto main = package_.workbook_part();
         XmlText xml = package_.read_original_xml(main);
@@ -89,13 +90,22 @@ void WorkbookFile::update() {
     }
 }
 
-void WorkbookFile::update_sheets() {
+FileNumbers WorkbookFile::formats_in_use() const {
+    FileNumbers formats(styles_.formats, book_.styles.formats.size());
+    formats.use(0);  // the default one keeps its number in a file that has none yet
+    for (const auto& sheet : book_.sheets()) {
+        if (sheet->loaded() && sheet->changed()) use_formats(*sheet, formats);
+    }
+    return formats;
+}
+
+void WorkbookFile::update_sheets(const FileNumbers& formats) {
     bool formulas_changed = false;
     for (std::size_t i = 0; i < sheets_.size(); ++i) {
         Sheet& sheet = *book_.sheets()[i];
         if (sheet.kind() != SheetKind::Worksheet || !sheet.loaded() || !sheet.changed()) continue;
         XmlText xml = package_.read_original_xml(sheets_[i].name);
-        SheetText written = write_sheet(std::move(xml.text), sheet, sheets_[i].layout, styles_.formats);
+        SheetText written = write_sheet(std::move(xml.text), sheet, sheets_[i].layout, formats);
         formulas_changed = formulas_changed || written.formulas_changed;
         package_.replace(sheets_[i].name, encoded(std::move(written.text), xml.encoding));
         sheets_[i].rewritten = true;
@@ -114,14 +124,15 @@ void WorkbookFile::update_tabs() {
     }
 }
 
-void WorkbookFile::update_styles() {
+void WorkbookFile::update_styles(const FileNumbers& formats) {
     const bool strict = package_.is_strict();
     if (styles_in_file_) {
         XmlText xml = package_.read_original_xml(styles_part_);
-        package_.replace(styles_part_, encoded(write_styles(std::move(xml.text), book_, styles_), xml.encoding));
+        package_.replace(styles_part_,
+                         encoded(write_styles(std::move(xml.text), book_, styles_, formats), xml.encoding));
         return;
     }
-    std::string text = write_styles(empty_styles(strict), book_, styles_);
+    std::string text = write_styles(empty_styles(strict), book_, styles_, formats);
     if (!styles_part_.empty()) {
         package_.replace(styles_part_, std::move(text));
         return;

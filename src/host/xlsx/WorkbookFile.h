@@ -44,9 +44,11 @@ class WorkbookFile {
     };
 
     void load(std::size_t position, Sheet& sheet);
-    void update_sheets();
+    // The formats that the changed sheets need, under the numbers that they get in the file.
+    [[nodiscard]] FileNumbers formats_in_use() const;
+    void update_sheets(const FileNumbers& formats);
     void update_tabs();
-    void update_styles();
+    void update_styles(const FileNumbers& formats);
     void drop_calculation_chain();
 
     Package package_;
