@@ -1,0 +1,205 @@
+#include "host/objects/BorderLines.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "host/objects/Refusal.h"
+
+namespace kestrune::host {
+namespace {
+
+using Change = std::function<void(Line&)>;
+
+constexpr Edge all_edges[] = {Edge::Left, Edge::Top, Edge::Right, Edge::Bottom};
+
+Edge edge_of(std::int32_t index) {
+    switch (index) {
+        case xlEdgeLeft:
+            return Edge::Left;
+        case xlEdgeTop:
+            return Edge::Top;
+        case xlEdgeBottom:
+            return Edge::Bottom;
+        default:
+            return Edge::Right;
+    }
+}
+
+// The cells of an area along one of its sides.
+Area strip_of(const Area& area, Edge edge) {
+    switch (edge) {
+        case Edge::Left:
+            return {area.first_row, area.first_column, area.last_row, area.first_column};
+        case Edge::Top:
+            return {area.first_row, area.first_column, area.first_row, area.last_column};
+        case Edge::Right:
+            return {area.first_row, area.last_column, area.last_row, area.last_column};
+        default:
+            return {area.last_row, area.first_column, area.last_row, area.last_column};
+    }
+}
+
+// The cells beyond that side; nothing at the sheet's own edge.
+std::optional<Area> neighbours_of(const Area& area, Edge edge) {
+    Area strip = strip_of(area, edge);
+    const std::int32_t down = edge == Edge::Top ? -1 : (edge == Edge::Bottom ? 1 : 0);
+    const std::int32_t right = edge == Edge::Left ? -1 : (edge == Edge::Right ? 1 : 0);
+    strip.first_row += down;
+    strip.last_row += down;
+    strip.first_column += right;
+    strip.last_column += right;
+    if (!strip.top_left().on_sheet() || !Position{strip.last_row, strip.last_column}.on_sheet()) return std::nullopt;
+    return strip;
+}
+
+void add(std::vector<Line>& all, const std::vector<Line>& more) {
+    for (const Line& line : more) {
+        if (std::ranges::find(all, line) == all.end()) all.push_back(line);
+    }
+}
+
+std::vector<Line> diagonals(const CellRange& cells, std::int32_t index) {
+    std::vector<Line> lines;
+    for (const StyleId id : cells.formats()) {
+        const Border& border = cells.styles().border_of(id);
+        const bool drawn = index == xlDiagonalDown ? border.diagonal_down : border.diagonal_up;
+        add(lines, {drawn ? border.diagonal : Line{}});
+    }
+    return lines;
+}
+
+class Writer {
+  public:
+    Writer(const CellRange& cells, const Change& change) : cells_(cells), change_(change) {}
+
+    void diagonal(std::int32_t index) const {
+        for (const Area& area : cells_.areas()) {
+            restyle(area, [&](Border& border) {
+                bool& drawn = index == xlDiagonalDown ? border.diagonal_down : border.diagonal_up;
+                const bool other = index == xlDiagonalDown ? border.diagonal_up : border.diagonal_down;
+                Line line = drawn ? border.diagonal : Line{};
+                change_(line);
+                drawn = line.style != LineStyle::None;
+                // Both diagonals of a cell share one line.
+                if (drawn || !other) border.diagonal = line;
+            });
+        }
+    }
+
+    void rim(const Area& area, Edge edge) const {
+        // Where one line shows all along, whichever side stores it, that line is what changes.
+        const std::vector<Line> shown = cells_.sheet().edge_lines(area, edge);
+        const std::optional<Line> line = shown.size() == 1 ? std::optional(changed(shown.front())) : std::nullopt;
+        restyle(strip_of(area, edge), [&](Border& border) { update(border.line(edge), line); });
+        follow(area, edge, line);
+    }
+
+    void inside(const Area& area, bool between_columns) const {
+        const std::vector<Line> shown = cells_.sheet().inside_lines(area, between_columns);
+        const std::optional<Line> line = shown.size() == 1 ? std::optional(changed(shown.front())) : std::nullopt;
+        Area before = area;
+        Area after = area;
+        (between_columns ? before.last_column : before.last_row) -= 1;
+        (between_columns ? after.first_column : after.first_row) += 1;
+        const Edge trailing = between_columns ? Edge::Right : Edge::Bottom;
+        restyle(before, [&](Border& border) { update(border.line(trailing), line); });
+        restyle(after, [&](Border& border) { update(border.line(facing(trailing)), line); });
+    }
+
+    void everything(const Area& area) const {
+        std::vector<Line> shown;
+        for (const Edge edge : all_edges) add(shown, cells_.sheet().edge_lines(area, edge));
+        add(shown, cells_.sheet().inside_lines(area, true));
+        add(shown, cells_.sheet().inside_lines(area, false));
+        const std::optional<Line> line = shown.size() == 1 ? std::optional(changed(shown.front())) : std::nullopt;
+        restyle(area, [&](Border& border) {
+            for (const Edge edge : all_edges) update(border.line(edge), line);
+        });
+        for (const Edge edge : all_edges) follow(area, edge, line);
+    }
+
+  private:
+    [[nodiscard]] Line changed(Line line) const {
+        change_(line);
+        return line;
+    }
+
+    void update(Line& line, const std::optional<Line>& known) const {
+        if (known) {
+            line = *known;
+        } else {
+            change_(line);
+        }
+    }
+
+    void restyle(const Area& area, const std::function<void(Border&)>& change) const {
+        cells_.sheet().restyle(area, [&](StyleId id) { return cells_.styles().with_border(id, change); });
+    }
+
+    // The neighbours' side of the line, where they draw one of their own.
+    void follow(const Area& area, Edge edge, const std::optional<Line>& line) const {
+        const auto neighbours = neighbours_of(area, edge);
+        if (!neighbours) return;
+        const Edge side = facing(edge);
+        const auto draws = [&](StyleId id) {
+            const Line& own = cells_.styles().border_of(id).line(side);
+            return own.style != LineStyle::None && !(line && own == *line);
+        };
+        if (std::ranges::none_of(cells_.sheet().styles_in(*neighbours), draws)) return;
+        cells_.sheet().restyle(*neighbours, [&](StyleId id) {
+            if (!draws(id)) return id;
+            return cells_.styles().with_border(id, [&](Border& border) { update(border.line(side), line); });
+        });
+    }
+
+    const CellRange& cells_;
+    const Change& change_;
+};
+
+bool inside_exists(const Area& area, std::int32_t index) {
+    return index == xlInsideVertical ? area.columns() > 1 : area.rows() > 1;
+}
+
+}  // namespace
+
+std::vector<Line> lines_of(const CellRange& cells, std::int32_t index) {
+    if (index == xlDiagonalDown || index == xlDiagonalUp) return diagonals(cells, index);
+    std::vector<Line> lines;
+    for (const Area& area : cells.areas()) {
+        if (index == all_lines) {
+            for (const Edge edge : all_edges) add(lines, cells.sheet().edge_lines(area, edge));
+        }
+        if (index == all_lines || index == xlInsideVertical) add(lines, cells.sheet().inside_lines(area, true));
+        if (index == all_lines || index == xlInsideHorizontal) add(lines, cells.sheet().inside_lines(area, false));
+        if (index >= xlEdgeLeft && index <= xlEdgeRight) add(lines, cells.sheet().edge_lines(area, edge_of(index)));
+    }
+    return lines;
+}
+
+void change_lines(const CellRange& cells, std::int32_t index, std::string_view member, const Change& change) {
+    cells.require_format_allowed(member);
+    const bool inside = index == xlInsideVertical || index == xlInsideHorizontal;
+    if (inside && std::ranges::none_of(cells.areas(), [&](const Area& area) { return inside_exists(area, index); })) {
+        Line line;
+        change(line);
+        if (line.style != LineStyle::None) refuse(member, "the range has no lines inside");
+        return;
+    }
+    const Writer writer(cells, change);
+    if (index == xlDiagonalDown || index == xlDiagonalUp) {
+        writer.diagonal(index);
+    } else {
+        for (const Area& area : cells.areas()) {
+            if (index == all_lines) {
+                writer.everything(area);
+            } else if (!inside) {
+                writer.rim(area, edge_of(index));
+            } else if (inside_exists(area, index)) {
+                writer.inside(area, index == xlInsideVertical);
+            }
+        }
+    }
+    cells.changed();
+}
+
+}  // namespace kestrune::host

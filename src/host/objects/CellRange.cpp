@@ -1,0 +1,48 @@
+#include "host/objects/CellRange.h"
+
+#include <algorithm>
+
+#include "host/objects/Refusal.h"
+
+namespace kestrune::host {
+namespace {
+
+// Excel's limit of cell formats in one workbook.
+constexpr std::uint32_t most_formats = 65'490;
+
+}  // namespace
+
+std::vector<StyleId> CellRange::formats() const {
+    std::vector<StyleId> distinct = sheet_->styles_in(areas_.front());
+    for (std::size_t i = 1; i < areas_.size(); ++i) {
+        for (const StyleId id : sheet_->styles_in(areas_[i])) {
+            if (std::ranges::find(distinct, id) == distinct.end()) distinct.push_back(id);
+        }
+    }
+    return distinct;
+}
+
+void CellRange::restyle(std::string_view member, const std::function<StyleId(StyleId)>& map) const {
+    require_format_allowed(member);
+    if (styles().formats.size() >= most_formats) refuse(member, "the workbook has too many different cell formats");
+    for (const Area& area : areas_) sheet_->restyle(area, map);
+    changed();
+}
+
+void CellRange::require_format_allowed(std::string_view member) const {
+    const SheetProtection& protection = sheet_->protection;
+    if (protection.on && !protection.format_cells) {
+        refuse(member, "the sheet '" + sheet_->name() + "' is protected against formatting");
+    }
+}
+
+void CellRange::require_content_allowed(std::string_view member) const {
+    if (!sheet_->protection.on) return;
+    for (const StyleId id : formats()) {
+        if (styles().formats[id].protection.locked) {
+            refuse(member, "the cell is locked and the sheet '" + sheet_->name() + "' is protected");
+        }
+    }
+}
+
+}  // namespace kestrune::host

@@ -1,0 +1,61 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "automation/Value.h"
+#include "host/model/Workbook.h"
+#include "host/objects/HostSession.h"
+
+namespace kestrune::host {
+
+// The cells that a served object stands for: areas of one sheet. Reads formats over all areas and
+// changes them, both once for every distinct format, however many cells there are.
+class CellRange {
+  public:
+    CellRange(HostSession& session, Sheet& sheet, std::vector<Area> areas)
+        : session_(&session), sheet_(&sheet), areas_(std::move(areas)) {}
+
+    [[nodiscard]] HostSession& session() const { return *session_; }
+    [[nodiscard]] Sheet& sheet() const { return *sheet_; }
+    [[nodiscard]] Workbook& workbook() const { return sheet_->workbook(); }
+    [[nodiscard]] StyleTable& styles() const { return sheet_->workbook().styles; }
+    [[nodiscard]] const std::vector<Area>& areas() const { return areas_; }
+    [[nodiscard]] const Area& first() const { return areas_.front(); }
+
+    // The distinct formats of all areas, that of the first cell first.
+    [[nodiscard]] std::vector<StyleId> formats() const;
+
+    // What read answers for every format; Null when the formats differ in it.
+    template <class Read>
+    [[nodiscard]] automation::Value uniform(Read&& read) const {
+        std::optional<automation::Value> common;
+        for (const StyleId id : formats()) {
+            automation::Value answer = read(id);
+            if (common && !(*common == answer)) return automation::Null{};
+            common = std::move(answer);
+        }
+        return common.value_or(automation::Value());
+    }
+
+    // Replaces every format by map's answer. Refused on a protected sheet that does not allow it.
+    void restyle(std::string_view member, const std::function<StyleId(StyleId)>& map) const;
+
+    // Error 1004 when the sheet is protected: against formatting, or against changing the content of a
+    // locked cell among these.
+    void require_format_allowed(std::string_view member) const;
+    void require_content_allowed(std::string_view member) const;
+
+    // Notes a change of the workbook.
+    void changed() const { session_->changed(workbook()); }
+
+  private:
+    HostSession* session_;
+    Sheet* sheet_;
+    std::vector<Area> areas_;
+};
+
+}  // namespace kestrune::host

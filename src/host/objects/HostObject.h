@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "automation/MemberTable.h"
+#include "host/model/ModelError.h"
+#include "host/objects/HostSession.h"
+#include "host/objects/Refusal.h"
+
+namespace kestrune::host {
+
+using automation::Arguments;
+using automation::Call;
+using automation::Member;
+using automation::MemberTable;
+using automation::method;
+using automation::Missing;
+using automation::Null;
+using automation::ObjectRef;
+using automation::property;
+using automation::read_only;
+using automation::Value;
+
+// An object of the embedded Excel: served by its class's member table, its calls from outside counted.
+template <class Derived>
+class HostObject : public automation::Served<Derived> {
+  public:
+    Value invoke(std::string_view member, Call kind, Arguments& arguments) override {
+        const HostSession::Entry entry(session_);
+        try {
+            return automation::Served<Derived>::invoke(member, kind, arguments);
+        } catch (const ModelError& error) {
+            refuse(std::string(this->type_name()) + "." + std::string(member), error.what());
+        }
+    }
+
+    [[nodiscard]] ObjectRef application() const { return make_application(session_); }
+
+  protected:
+    explicit HostObject(HostSession& session) : session_(session) {}
+
+    [[nodiscard]] HostSession& session() const { return session_; }
+
+  private:
+    HostSession& session_;
+};
+
+}  // namespace kestrune::host

@@ -1,0 +1,109 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "automation/Object.h"
+#include "host/model/Workbook.h"
+#include "host/objects/Constants.h"
+
+namespace kestrune::host {
+
+// A window's place on the screen, in points from the screen's top-left corner.
+struct Rectangle {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+};
+
+// The screen that the application pretends to be on.
+inline constexpr Rectangle screen{0, 0, 1440, 810};
+
+struct WindowPlace {
+    std::int32_t state = xlMaximized;
+    Rectangle normal;  // where the window is when it is neither maximised nor minimised
+};
+
+// A workbook that is open, and what its one window remembers about it besides the sheets' own views.
+struct OpenWorkbook {
+    std::unique_ptr<Workbook> model;
+    WindowPlace window{xlMaximized, {0, 0, 720, 405}};
+    std::string caption;                      // empty: the workbook's name
+    bool saved = true;                        // whether nothing has changed since it was opened or last called saved
+    std::map<const Sheet*, Position> scroll;  // the top-left cell shown; A1 where absent
+};
+
+// One run of the embedded Excel: its workbooks and the state of the application. The objects that it
+// serves stay valid as long as it lives.
+class HostSession {
+  public:
+    HostSession() = default;
+    HostSession(const HostSession&) = delete;
+    HostSession& operator=(const HostSession&) = delete;
+
+    // Takes a filled workbook in and makes it the active one.
+    Workbook& open(std::unique_ptr<Workbook> workbook);
+
+    // How many automation calls came from outside. What an object calls while it answers counts nothing.
+    [[nodiscard]] std::int64_t calls() const { return calls_; }
+
+    [[nodiscard]] const std::vector<std::unique_ptr<OpenWorkbook>>& workbooks() const { return workbooks_; }
+    [[nodiscard]] OpenWorkbook& opened(const Workbook& workbook) const;
+    [[nodiscard]] OpenWorkbook* active() const { return active_; }  // null when no workbook is open
+    void activate(const Workbook& workbook) { active_ = &opened(workbook); }
+    // The sheet on top of the active workbook's window; null without one.
+    [[nodiscard]] Sheet* active_sheet() const;
+    // Brings a sheet to the top of its workbook's window. A hidden sheet does not come: false.
+    bool activate(Sheet& sheet);
+    // After sheets were hidden: brings the nearest visible one to the top when the active one is hidden.
+    void leave_hidden(Workbook& workbook);
+    // Notes that a workbook differs from what was saved.
+    void changed(const Workbook& workbook) { opened(workbook).saved = false; }
+
+    WindowPlace window{xlMaximized, {180, 101.25, 1080, 607.5}};
+    std::string caption;  // empty: the application's name
+    std::int32_t calculation = xlAutomatic;
+    std::int32_t cut_copy_mode = 0;
+    std::int32_t cursor = xlDefaultCursor;
+    std::int32_t reference_style = xlA1;
+    bool screen_updating = true;
+    bool enable_events = true;
+    bool display_alerts = true;
+    bool interactive = true;
+    bool visible = true;
+    automation::Value status_bar = false;  // false: Excel writes its own texts there
+
+    static constexpr std::int32_t xlDefaultCursor = -4143;
+
+    // Counts a call for as long as it lasts; calls inside it are the host's own.
+    class Entry {
+      public:
+        explicit Entry(HostSession& session) : session_(session) {
+            if (session_.depth_++ == 0) ++session_.calls_;
+        }
+        ~Entry() { --session_.depth_; }
+        Entry(const Entry&) = delete;
+        Entry& operator=(const Entry&) = delete;
+
+      private:
+        HostSession& session_;
+    };
+
+  private:
+    static void bring_up(Sheet& sheet);
+
+    std::vector<std::unique_ptr<OpenWorkbook>> workbooks_;
+    OpenWorkbook* active_ = nullptr;
+    std::int64_t calls_ = 0;
+    int depth_ = 0;
+};
+
+// Excel's Application object for a session.
+automation::ObjectRef make_application(HostSession& session);
+
+}  // namespace kestrune::host

@@ -1,0 +1,95 @@
+#include "host/objects/WorksheetObject.h"
+
+#include <algorithm>
+
+#include "host/objects/NamesObject.h"
+#include "host/objects/OutlineObject.h"
+#include "host/objects/RangeObject.h"
+#include "host/objects/RangeReference.h"
+#include "host/objects/SheetMeasures.h"
+
+namespace kestrune::host {
+namespace {
+
+Visibility visibility_of(const Value& value) {
+    switch (automation::to_integer(value)) {
+        case xlSheetVisible:
+            return Visibility::Visible;
+        case xlSheetHidden:
+            return Visibility::Hidden;
+        case xlSheetVeryHidden:
+            return Visibility::VeryHidden;
+        default:
+            refuse("Worksheet.Visible", "there is no such visibility");
+    }
+}
+
+}  // namespace
+
+ObjectRef WorksheetObject::range(const Value& cell1, const Value& cell2) const {
+    return std::make_shared<RangeObject>(range_of_arguments("Worksheet.Range", session(), sheet(), cell1, cell2));
+}
+
+ObjectRef WorksheetObject::cells() const {
+    return std::make_shared<RangeObject>(CellRange(session(), sheet(), {Area::sheet()}));
+}
+
+ObjectRef WorksheetObject::rows() const {
+    return std::make_shared<RangeObject>(CellRange(session(), sheet(), {Area::sheet()}), RangeObject::Unit::Rows);
+}
+
+ObjectRef WorksheetObject::columns() const {
+    return std::make_shared<RangeObject>(CellRange(session(), sheet(), {Area::sheet()}), RangeObject::Unit::Columns);
+}
+
+ObjectRef WorksheetObject::used_range() const {
+    return std::make_shared<RangeObject>(CellRange(session(), sheet(), {sheet().used_area()}));
+}
+
+ObjectRef WorksheetObject::names() const { return std::make_shared<NamesObject>(session(), sheet()); }
+ObjectRef WorksheetObject::outline() const { return std::make_shared<OutlineObject>(session(), sheet()); }
+
+double WorksheetObject::standard_width() const { return host::standard_width(sheet()); }
+
+void WorksheetObject::set_standard_width(double characters) {
+    if (!(characters >= 0 && characters <= 255)) refuse("Worksheet.StandardWidth", "a width is 0 to 255 characters");
+    if (sheet().protection.on) refuse("Worksheet.StandardWidth", "the sheet is protected");
+    host::set_standard_width(sheet(), characters);
+    session().changed(sheet().workbook());
+}
+
+void WorksheetObject::set_visible(const Value& visibility) {
+    const Visibility wanted = visibility_of(visibility);
+    if (wanted == sheet().visibility) return;
+    const Workbook& workbook = sheet().workbook();
+    if (workbook.structure_protected) refuse("Worksheet.Visible", "the workbook's structure is protected");
+    if (wanted != Visibility::Visible) {
+        const auto visible = std::ranges::count_if(
+            workbook.sheets(), [](const auto& other) { return other->visibility == Visibility::Visible; });
+        if (sheet().visibility == Visibility::Visible && visible == 1) {
+            refuse("Worksheet.Visible", "a workbook keeps at least one visible sheet");
+        }
+    }
+    sheet().visibility = wanted;
+    session().leave_hidden(sheet().workbook());
+    session().changed(workbook);
+}
+
+const MemberTable& WorksheetObject::members() {
+    using W = WorksheetObject;
+    static constexpr auto rows = automation::member_rows(
+        read_only<&W::application>("Application", 1), read_only<&W::parent>("Parent", 2),
+        read_only<&W::name>("Name", 3), read_only<&W::index>("Index", 4),
+        property<&W::visible, &W::set_visible>("Visible", 5), read_only<&W::range>("Range", 6, "Cell1, [Cell2]"),
+        read_only<&W::cells>("Cells", 7), read_only<&W::rows>("Rows", 8), read_only<&W::columns>("Columns", 9),
+        read_only<&W::used_range>("UsedRange", 10), read_only<&W::names>("Names", 11),
+        read_only<&W::outline>("Outline", 12),
+        property<&W::standard_width, &W::set_standard_width>("StandardWidth", 13),
+        read_only<&W::standard_height>("StandardHeight", 14), method<&W::activate>("Activate", 15),
+        method<&W::select>("Select", 16, "[Replace]"), read_only<&W::protect_contents>("ProtectContents", 17),
+        read_only<&W::next>("Next", 18), read_only<&W::previous>("Previous", 19));
+    static constexpr MemberTable table("Worksheet", rows);
+    return table;
+}
+
+}  // namespace kestrune::host

@@ -1,0 +1,115 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <map>
+#include <string>
+
+#include "host/objects/ApplicationObject.h"
+#include "host/objects/AreasObject.h"
+#include "host/objects/BorderObject.h"
+#include "host/objects/BordersObject.h"
+#include "host/objects/ChartSheetObject.h"
+#include "host/objects/ConditionFontObject.h"
+#include "host/objects/ConditionInteriorObject.h"
+#include "host/objects/FontObject.h"
+#include "host/objects/FormatConditionObject.h"
+#include "host/objects/FormatConditionsObject.h"
+#include "host/objects/InteriorObject.h"
+#include "host/objects/NameObject.h"
+#include "host/objects/NamesObject.h"
+#include "host/objects/OutlineObject.h"
+#include "host/objects/RangeObject.h"
+#include "host/objects/SheetsObject.h"
+#include "host/objects/WindowObject.h"
+#include "host/objects/WindowsObject.h"
+#include "host/objects/WorkbookObject.h"
+#include "host/objects/WorkbooksObject.h"
+#include "host/objects/WorksheetObject.h"
+
+namespace kestrune::host {
+namespace {
+
+struct Published {
+    std::string kind, access, parameters;
+};
+
+std::map<std::string, Published> published_members() {
+    std::ifstream file(KESTRUNE_SOURCE_DIR "/tests/excel/object-model.tsv");
+    std::map<std::string, Published> rows;
+    std::string line;
+    std::getline(file, line);
+    while (std::getline(file, line)) {
+        std::vector<std::string> fields(1);
+        for (const char c : line) {
+            if (c == '\t') {
+                fields.emplace_back();
+            } else {
+                fields.back() += c;
+            }
+        }
+        fields.resize(5);
+        rows.emplace(fields[0] + "." + fields[1], Published{fields[2], fields[3], fields[4]});
+    }
+    return rows;
+}
+
+// "Cell1, [Cell2]" in the reference's spelling: "Cell1! Cell2".
+std::string parameters_of(const Member& member) {
+    std::string text;
+    std::string_view list = member.parameters;
+    while (!list.empty()) {
+        const auto parameter = automation::detail::take_parameter(list);
+        text += (text.empty() ? "" : " ") + std::string(parameter.name) + (parameter.optional ? "" : "!");
+    }
+    return text;
+}
+
+TEST(ServedMembers, AreExcels) {
+    const auto published = published_members();
+    const MemberTable* tables[] = {
+        &ApplicationObject::members(),
+        &AreasObject::members(),
+        &BorderObject::members(),
+        &BordersObject::members(),
+        &ChartSheetObject::members(),
+        &ConditionFontObject::members(),
+        &ConditionInteriorObject::members(),
+        &FontObject::members(),
+        &FormatConditionObject::members(),
+        &FormatConditionsObject::members(),
+        &InteriorObject::members(),
+        &NameObject::members(),
+        &NamesObject::members(),
+        &OutlineObject::members(),
+        &RangeObject::members(),
+        &SheetsObject::members(),
+        &WindowObject::members(),
+        &WindowsObject::members(),
+        &WorkbookObject::members(),
+        &WorkbooksObject::members(),
+        &WorksheetObject::members(),
+        &WorksheetsObject::members(),
+    };
+    std::vector<std::string> differences;
+    for (const MemberTable* table : tables) {
+        for (const Member& member : table->rows()) {
+            if (member.name == "_Default") continue;  // hidden, so the reference leaves it out
+            const std::string name = std::string(table->class_name()) + "." + std::string(member.name);
+            const auto row = published.find(name);
+            if (row == published.end()) {
+                differences.push_back(name + " is not in the reference");
+                continue;
+            }
+            if (row->second.kind != (member.is_method ? "method" : "property")) differences.push_back(name + ": kind");
+            if (member.set && row->second.access != "get put") differences.push_back(name + ": cannot be written");
+            if (parameters_of(member) != row->second.parameters) {
+                differences.push_back(name + ": " + parameters_of(member) + " instead of " + row->second.parameters);
+            }
+        }
+    }
+    EXPECT_THAT(differences, testing::IsEmpty());
+}
+
+}  // namespace
+}  // namespace kestrune::host
