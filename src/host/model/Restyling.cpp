@@ -37,12 +37,12 @@ Restyling::Restyling(Sheet& sheet, const Area& area, const Map& map, bool by_edg
 
 void Restyling::run() {
     // Everything that can fail comes before the first change.
-    map_stored();
+    const bool stored_differ = map_stored<false>();
     plan_columns();
     plan_plain_rows();
     plan_styled_rows();
 
-    apply_to_stored();
+    if (stored_differ) sheet_.cells_changed = map_stored<true>();
     fill_gaps();
     apply_to_columns();
     apply_to_rows();
@@ -84,8 +84,9 @@ StyleId Restyling::successor(StyleId style, unsigned edges) {
     return known[style];
 }
 
-template <class Visit>
-void Restyling::visit_stored(Visit&& visit) {
+template <bool apply>
+bool Restyling::map_stored() {
+    bool differ = false;
     for (const Columns& columns : columns_) {
         if (!columns.inside) continue;
         for (std::int32_t c = columns.first; c <= columns.last; ++c) {
@@ -95,22 +96,21 @@ void Restyling::visit_stored(Visit&& visit) {
                 if (!rows.inside) continue;
                 const unsigned edges = columns.edges | rows.edges;
                 const auto end = column->from(rows.last + 1);
-                for (auto cell = column->from(rows.first); cell < end; ++cell) visit(*cell, edges);
+                // Cells down a column are mostly alike: one answer holds until the format changes.
+                StyleId before = nothing;
+                StyleId after = nothing;
+                for (auto cell = column->from(rows.first); cell < end; ++cell) {
+                    if (cell->style != before) {
+                        before = cell->style;
+                        after = successor(before, edges);
+                        differ = differ || after != before;
+                    }
+                    if (apply) cell->style = after;
+                }
             }
         }
     }
-}
-
-void Restyling::map_stored() {
-    visit_stored([&](const Cell& cell, unsigned edges) {
-        if (successor(cell.style, edges) != cell.style) stored_differ_ = true;
-    });
-}
-
-void Restyling::apply_to_stored() {
-    if (!stored_differ_) return;
-    visit_stored([&](Cell& cell, unsigned edges) { cell.style = successors_[edges][cell.style]; });
-    sheet_.cells_changed = true;
+    return differ;
 }
 
 StyleId Restyling::wanted_of_column(const Columns& columns, const Rows& rows) {

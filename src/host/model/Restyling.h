@@ -53,9 +53,9 @@ class Restyling {
                                           Edge last_edge) const;
     StyleId successor(StyleId style, unsigned edges);
     [[nodiscard]] StyleId known_successor(StyleId style, unsigned edges) const;
-    template <class Visit>
-    void visit_stored(Visit&& visit);
-    void map_stored();
+    // Finds the successors of the area's cells, or gives them these; whether any differs.
+    template <bool apply>
+    bool map_stored();
     // What blank positions must show afterwards; `nothing` where there is none.
     StyleId wanted_of_column(const Columns& columns, const Rows& rows);
     [[nodiscard]] StyleId wanted_of_row(const StyledRow& row, const Columns& columns, const Rows& rows) const;
@@ -65,7 +65,6 @@ class Restyling {
     // The row format that spares many cells, given what each of columns_ must show and shows without it.
     [[nodiscard]] std::optional<StyleId> better_row_style(const std::vector<StyleId>& wanted,
                                                           const std::vector<StyleId>& shown) const;
-    void apply_to_stored();
     void fill_gaps();
     void apply_to_columns();
     void apply_to_rows();
@@ -81,7 +80,6 @@ class Restyling {
     std::vector<Rows> rows_;
     std::vector<std::vector<StyleId>> wanted_;  // wanted_of_column for each of columns_, each of rows_
     std::vector<StyledRow> styled_rows_;        // of the area, ascending
-    bool stored_differ_ = false;
 };
 
 }  // namespace kestrune::host

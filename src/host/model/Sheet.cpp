@@ -61,6 +61,12 @@ CellColumn* Sheet::column_if(std::int32_t column) const {
     return cells_[index_of(column)].get();
 }
 
+std::span<const Cell> Sheet::cells_between(std::int32_t column, std::int32_t first_row, std::int32_t last_row) const {
+    const CellColumn* stored = column_if(column);
+    if (!stored) return {};
+    return {stored->from(first_row), stored->from(last_row + 1)};
+}
+
 CellColumn& Sheet::column_or_new(std::int32_t column) {
     if (index_of(column) >= cells_.size()) cells_.resize(index_of(column) + 1);
     auto& place = cells_[index_of(column)];

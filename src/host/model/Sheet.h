@@ -185,6 +185,8 @@ class Sheet {
   private:
     void finish_loading();
     [[nodiscard]] CellColumn* column_if(std::int32_t column) const;  // null without cells
+    [[nodiscard]] std::span<const Cell> cells_between(std::int32_t column, std::int32_t first_row,
+                                                      std::int32_t last_row) const;
     [[nodiscard]] CellColumn& column_or_new(std::int32_t column);
     [[nodiscard]] StyleId inherited_style(Position at) const;  // the row's, else the column's
     [[nodiscard]] RowFormat new_row_format() const;

@@ -1,5 +1,7 @@
 #include <algorithm>
-#include <set>
+#include <cstdint>
+#include <limits>
+#include <unordered_set>
 #include <utility>
 
 #include "host/model/Sheet.h"
@@ -15,7 +17,11 @@ class LinesSeen {
 
     // The cell itself, and the neighbour across its edge.
     void add(StyleId own, StyleId neighbour) {
-        if (!pairs_.emplace(own, neighbour).second) return;
+        const std::uint64_t pair = std::uint64_t{own} << 32U | neighbour;
+        // Neighbours down a column are mostly alike.
+        if (pair == last_pair_) return;
+        last_pair_ = pair;
+        if (!pairs_.insert(pair).second) return;
         const Line& line = styles_.border_of(own).line(edge_);
         add(line.style != LineStyle::None ? line : styles_.border_of(neighbour).line(facing(edge_)));
     }
@@ -31,7 +37,8 @@ class LinesSeen {
 
     const StyleTable& styles_;
     Edge edge_;
-    std::set<std::pair<StyleId, StyleId>> pairs_;
+    std::uint64_t last_pair_ = ~std::uint64_t{0};
+    std::unordered_set<std::uint64_t> pairs_;
     std::vector<Line> lines_;
 };
 
@@ -77,20 +84,31 @@ Area beyond(const Area& area, Edge edge) {
 
 }  // namespace
 
-// Visits (style in column, style in column + 1) of every row, repeats left out where they come in bulk.
+// Visits (style in column, style in column + 1) of every row, rows where both are blank once for all.
 template <class Visit>
 void Sheet::visit_beside(std::int32_t column, std::int32_t first_row, std::int32_t last_row, Visit&& visit) {
-    std::vector<std::int32_t> special;
-    for (const std::int32_t c : {column, column + 1})
-        if (const CellColumn* stored = column_if(c))
-            for (auto cell = stored->from(first_row); cell != stored->cells.end() && cell->row <= last_row; ++cell)
-                special.push_back(cell->row);
-    for (const BlankCell& row : styled_rows_in(first_row, last_row)) special.push_back(row.row);
-    std::ranges::sort(special);
-    const auto repeats = std::ranges::unique(special);
-    special.erase(repeats.begin(), repeats.end());
-    for (const std::int32_t row : special) visit(style_at({row, column}), style_at({row, column + 1}));
-    if (std::ssize(special) < last_row - first_row + 1) visit(columns_.style_at(column), columns_.style_at(column + 1));
+    const std::span<const Cell> left = cells_between(column, first_row, last_row);
+    const std::span<const Cell> right = cells_between(column + 1, first_row, last_row);
+    const StyleId plain_left = columns_.style_at(column);
+    const StyleId plain_right = columns_.style_at(column + 1);
+    const auto styled = styled_rows_in(first_row, last_row);
+    constexpr auto none = std::numeric_limits<std::int32_t>::max();
+    const auto next_row = [](const auto& rows, std::size_t at) { return at < rows.size() ? rows[at].row : none; };
+    std::int64_t visited = 0;
+    for (std::size_t l = 0, r = 0, s = 0;; ++visited) {
+        const std::int32_t row_left = next_row(left, l);
+        const std::int32_t row_right = next_row(right, r);
+        const std::int32_t row_styled = next_row(styled, s);
+        const std::int32_t row = std::min({row_left, row_right, row_styled});
+        if (row == none) break;
+        StyleId style_left = plain_left;
+        StyleId style_right = plain_right;
+        if (row == row_styled) style_left = style_right = styled[s++].style;
+        if (row == row_left) style_left = left[l++].style;
+        if (row == row_right) style_right = right[r++].style;
+        visit(style_left, style_right);
+    }
+    if (visited < last_row - first_row + 1) visit(plain_left, plain_right);
 }
 
 // Visits (style, style below) of neighbouring rows of one column, likewise.
@@ -112,12 +130,11 @@ void Sheet::visit_below(std::int32_t column, std::int32_t first_row, std::int32_
     };
     const auto styled = styled_rows_in(first_row, last_row);
     auto row = styled.begin();
-    if (const CellColumn* stored = column_if(column))
-        for (auto cell = stored->from(first_row); cell != stored->cells.end() && cell->row <= last_row; ++cell) {
-            for (; row != styled.end() && row->row <= cell->row; ++row)
-                if (row->row < cell->row) step(row->row, row->style);
-            step(cell->row, cell->style);
-        }
+    for (const Cell& cell : cells_between(column, first_row, last_row)) {
+        for (; row != styled.end() && row->row <= cell.row; ++row)
+            if (row->row < cell.row) step(row->row, row->style);
+        step(cell.row, cell.style);
+    }
     for (; row != styled.end(); ++row) step(row->row, row->style);
     if (row_before < last_row) {
         if (row_before >= first_row) visit(style_before, plain);

@@ -72,12 +72,9 @@ std::vector<StyleId> Sheet::styles_in(const Area& area) {
     add(style_at(area.top_left()));
 
     const auto last_column = std::min(area.last_column, static_cast<std::int32_t>(cells_.size()));
-    for (std::int32_t c = area.first_column; c <= last_column; ++c) {
-        const CellColumn* column = column_if(c);
-        if (!column) continue;
-        const auto end = column->from(area.last_row + 1);
-        for (auto cell = column->from(area.first_row); cell < end; ++cell) add(cell->style);
-    }
+    for (std::int32_t c = area.first_column; c <= last_column; ++c)
+        for (StyleId last = styles.front(); const Cell& cell : cells_between(c, area.first_row, area.last_row))
+            if (cell.style != last) add(last = cell.style);
     for (const BlankCell& row : styled_rows_in(area.first_row, area.last_row))
         if (!seen[row.style] && has_blank(row.row, area.first_column, area.last_column)) add(row.style);
     columns_.visit(area.first_column, area.last_column, [&](const ColumnRun& run) {
