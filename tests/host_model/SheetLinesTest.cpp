@@ -59,6 +59,14 @@ TEST_F(SheetLines, OfColumnsAndRows) {
     EXPECT_EQ(text(sheet.edge_lines({1, 1, last_row, last_column}, Edge::Bottom)), "05");
 }
 
+TEST_F(SheetLines, BetweenTheBlankCellsOfAColumn) {
+    draw({1, 2, last_row, 2}, Edge::Top, LineStyle::Thin);
+    draw({1, 2, 1, 2}, Edge::Bottom, LineStyle::Thick);
+    draw({4, 2, 4, 2}, Edge::Top, LineStyle::Medium);
+    EXPECT_EQ(text(sheet.inside_lines({1, 2, 4, 2}, false)), "125");
+    EXPECT_EQ(text(sheet.inside_lines({1, 2, 3, 2}, false)), "15");
+}
+
 // Every way of looking at many lines at once against asking cell by cell.
 TEST_F(SheetLines, AgreeWithEachCellsLine) {
     std::mt19937 random(7);
