@@ -6,16 +6,21 @@
 namespace kestrune::host {
 
 Workbook& HostSession::open(std::unique_ptr<Workbook> workbook) {
+    open(*workbook);
+    active_->owned = std::move(workbook);
+    return *active_->model;
+}
+
+void HostSession::open(Workbook& workbook) {
     auto opened = std::make_unique<OpenWorkbook>();
-    opened->model = std::move(workbook);
+    opened->model = &workbook;
     workbooks_.push_back(std::move(opened));
     active_ = workbooks_.back().get();
-    return *active_->model;
 }
 
 OpenWorkbook& HostSession::opened(const Workbook& workbook) const {
     for (const auto& candidate : workbooks_) {
-        if (candidate->model.get() == &workbook) return *candidate;
+        if (candidate->model == &workbook) return *candidate;
     }
     refuse("Workbook", "the workbook is not open");
 }

@@ -31,7 +31,8 @@ struct WindowPlace {
 
 // A workbook that is open, and what its one window remembers about it besides the sheets' own views.
 struct OpenWorkbook {
-    std::unique_ptr<Workbook> model;
+    Workbook* model = nullptr;
+    std::unique_ptr<Workbook> owned;  // the same, unless its owner is elsewhere
     WindowPlace window{xlMaximized, {0, 0, 720, 405}};
     std::string caption;                      // empty: the workbook's name
     bool saved = true;                        // whether nothing has changed since it was opened or last called saved
@@ -46,8 +47,9 @@ class HostSession {
     HostSession(const HostSession&) = delete;
     HostSession& operator=(const HostSession&) = delete;
 
-    // Takes a filled workbook in and makes it the active one.
+    // Takes a filled workbook in and makes it the active one. One that stays with its owner must outlive the session.
     Workbook& open(std::unique_ptr<Workbook> workbook);
+    void open(Workbook& workbook);
 
     // How many automation calls came from outside. What an object calls while it answers counts nothing.
     [[nodiscard]] std::int64_t calls() const { return calls_; }
