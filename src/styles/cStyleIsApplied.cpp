@@ -36,7 +36,7 @@ class Comparison {
 
 // The workbook's palette entry that stands for a font's colour; Null for text of several colours.
 Value palette_color(const excel::Range& cell, const excel::Font& font) {
-    const Value index = font.ColorIndex();
+    Value index = font.ColorIndex();
     if (index.is(Value::Kind::Null)) return index;
     return cell.Worksheet().Parent().Colors(index);
 }
