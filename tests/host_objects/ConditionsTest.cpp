@@ -76,6 +76,21 @@ TEST_F(ConditionsTest, FormatsOverTheCells) {
     EXPECT_EQ(get(interior(range("A1")), "ColorIndex"), Value(xlNone)) << "the cell's own fill is another matter";
 }
 
+TEST_F(ConditionsTest, DrawsThinLines) {
+    const ObjectRef rule = automation::to_object(call(conditions(range("A1")), "Add", {1, 5, "1"}));
+    const ObjectRef lines = object(rule, "Borders");
+    EXPECT_EQ(get(lines, "LineStyle"), Value(Null{}));
+    put(object(lines, "Item", {xlBottom}), "ColorIndex", 3);
+    EXPECT_EQ(get(object(lines, "Item", {xlEdgeBottom}), "LineStyle"), Value(xlContinuous));
+    EXPECT_EQ(get(lines, "LineStyle"), Value(Null{})) << "the sides differ";
+    put(lines, "LineStyle", xlDash);
+    EXPECT_EQ(get(lines, "LineStyle"), Value(xlDash));
+    EXPECT_EQ(refused(lines, "Weight", xlThick), error_1004);
+    EXPECT_EQ(refused(lines, "LineStyle", xlDouble), error_1004);
+    EXPECT_EQ(get(lines, "LineStyle"), Value(xlDash));
+    EXPECT_EQ(call_refused(lines, "Item", {xlInsideVertical}), error_1004);
+}
+
 TEST_F(ConditionsTest, RefusesWhatItCannotMake) {
     const ObjectRef all = conditions(range("A1"));
     EXPECT_EQ(call_refused(all, "Add", {1, 5, "=1+"}), error_1004);

@@ -201,6 +201,8 @@ TEST_F(ContentTest, AProtectedSheetKeepsItsLockedCells) {
     EXPECT_EQ(call_refused(range("A1"), "ClearContents"), error_1004);
     EXPECT_EQ(refused(range("B1"), "Value", 2), ok);
     EXPECT_EQ(get(range("A1:B1"), "Value"), block({{1.0, 2.0}}));
+    EXPECT_EQ(refused(range("B1"), "NumberFormat", "0.0"), ok) << "the cell is not locked";
+    EXPECT_EQ(refused(range("A1:B1"), "NumberFormat", "0.00"), error_1004);
     const auto format_everything = [&] {
         std::vector<automation::HResult> codes{
             refused(range("A1"), "NumberFormat", "0.00"), refused(font(range("A1")), "Bold", true),

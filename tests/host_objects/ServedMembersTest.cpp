@@ -10,6 +10,7 @@
 #include "host/objects/BorderObject.h"
 #include "host/objects/BordersObject.h"
 #include "host/objects/ChartSheetObject.h"
+#include "host/objects/ConditionBordersObject.h"
 #include "host/objects/ConditionFontObject.h"
 #include "host/objects/ConditionInteriorObject.h"
 #include "host/objects/FontObject.h"
@@ -73,6 +74,8 @@ TEST(ServedMembers, AreExcels) {
         &BorderObject::members(),
         &BordersObject::members(),
         &ChartSheetObject::members(),
+        &ConditionBorderObject::members(),
+        &ConditionBordersObject::members(),
         &ConditionFontObject::members(),
         &ConditionInteriorObject::members(),
         &FontObject::members(),

@@ -30,17 +30,14 @@ void CellRange::restyle(std::string_view member, const std::function<StyleId(Sty
 }
 
 void CellRange::require_format_allowed(std::string_view member) const {
-    const SheetProtection& protection = sheet_->protection;
-    if (protection.on && !protection.format_cells) {
-        refuse(member, "the sheet '" + sheet_->name() + "' is protected against formatting");
-    }
+    if (!sheet_->protection.format_cells) require_content_allowed(member);
 }
 
 void CellRange::require_content_allowed(std::string_view member) const {
     if (!sheet_->protection.on) return;
     for (const StyleId id : formats()) {
         if (styles().formats[id].protection.locked) {
-            refuse(member, "the cell is locked and the sheet '" + sheet_->name() + "' is protected");
+            refuse(member, "a cell is locked and the sheet '" + sheet_->name() + "' is protected");
         }
     }
 }

@@ -44,8 +44,7 @@ class CellRange {
     // Replaces every format by map's answer. Refused on a protected sheet that does not allow it.
     void restyle(std::string_view member, const std::function<StyleId(StyleId)>& map) const;
 
-    // Error 1004 when the sheet is protected: against formatting, or against changing the content of a
-    // locked cell among these.
+    // Error 1004 when the sheet is protected and one of these cells is locked. Formatting may be allowed all the same.
     void require_format_allowed(std::string_view member) const;
     void require_content_allowed(std::string_view member) const;
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/number_format/NumberFormat.h"
+#include "host/objects/ConditionBordersObject.h"
 #include "host/objects/ConditionFontObject.h"
 #include "host/objects/ConditionInteriorObject.h"
 #include "host/objects/Conditions.h"
@@ -65,6 +66,8 @@ void FormatConditionObject::modify(std::int32_t type, const Value& operation, co
 ObjectRef FormatConditionObject::font() const { return std::make_shared<ConditionFontObject>(rule_); }
 ObjectRef FormatConditionObject::interior() const { return std::make_shared<ConditionInteriorObject>(rule_); }
 
+ObjectRef FormatConditionObject::borders() const { return std::make_shared<ConditionBordersObject>(rule_); }
+
 Value FormatConditionObject::number_format() const {
     const auto code = rule_.differential().number_format;
     return code ? Value(*code) : Value(Null{});
@@ -102,7 +105,8 @@ const MemberTable& FormatConditionObject::members() {
         read_only<&F::interior>("Interior", 11), property<&F::number_format, &F::set_number_format>("NumberFormat", 12),
         property<&F::priority, &F::set_priority>("Priority", 13),
         method<&F::set_first_priority>("SetFirstPriority", 14), method<&F::set_last_priority>("SetLastPriority", 15),
-        property<&F::stop_if_true, &F::set_stop_if_true>("StopIfTrue", 16), method<&F::remove>("Delete", 17));
+        property<&F::stop_if_true, &F::set_stop_if_true>("StopIfTrue", 16), method<&F::remove>("Delete", 17),
+        read_only<&F::borders>("Borders", 18));
     static constexpr MemberTable table("FormatCondition", rows);
     return table;
 }

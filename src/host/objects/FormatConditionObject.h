@@ -22,6 +22,7 @@ class FormatConditionObject final : public HostObject<FormatConditionObject> {
     void modify(std::int32_t type, const Value& operation, const Value& formula1, const Value& formula2);
     [[nodiscard]] ObjectRef font() const;
     [[nodiscard]] ObjectRef interior() const;
+    [[nodiscard]] ObjectRef borders() const;
     [[nodiscard]] Value number_format() const;  // Null when it changes none
     void set_number_format(const std::string& code);
     [[nodiscard]] std::int32_t priority() const { return rule_.rule().priority; }
