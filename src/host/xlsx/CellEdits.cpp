@@ -193,7 +193,7 @@ std::string CellEdits::row_source(std::int32_t row, const NewCell* first, const 
     return out;
 }
 
-void CellEdits::insert_into_row(std::size_t offset, std::int32_t row, const NewCell* first, const NewCell* last) {
+void CellEdits::insert_into_row(std::size_t offset, const NewCell* first, const NewCell* last) {
     const XmlElement element(text_, offset);
     // spans is a hint to readers, and a wrong one misleads them.
     if (const auto spans = element.attribute("spans")) {
@@ -214,9 +214,8 @@ void CellEdits::insert_into_row(std::size_t offset, std::int32_t row, const NewC
         column = at ? at->column : column + 1;
         cells.clear();
         for (; first != last && first->at.column < column; ++first) cells += cell_source(*first, child.prefix());
-        if (cells.empty()) continue;
-        edits_.insert(child.begin(), cells);
-        if (!reference) give_reference(child, formula::cell_text({row, column}));
+        // A cell without a reference stands right behind its neighbour: nothing ever goes between the two.
+        if (!cells.empty()) edits_.insert(child.begin(), cells);
     }
     cells.clear();
     for (; first != last; ++first) cells += cell_source(*first, element.prefix());
@@ -252,7 +251,7 @@ void CellEdits::write_new_cells() {
         known =
             std::lower_bound(known, layout_.rows.end(), row, [](const auto& a, std::int32_t r) { return a.row < r; });
         if (known != layout_.rows.end() && known->row == row) {
-            if (cell != last) insert_into_row(known->offset, row, cell, last);
+            if (cell != last) insert_into_row(known->offset, cell, last);
         } else if (known == layout_.rows.end()) {
             at_end += row_source(row, cell, last);
         } else {

@@ -39,7 +39,7 @@ class CellEdits {
     void edit_rows();
     void write_new_cells();
     // Puts cells into a row that stands in the file.
-    void insert_into_row(std::size_t offset, std::int32_t row, const NewCell* first, const NewCell* last);
+    void insert_into_row(std::size_t offset, const NewCell* first, const NewCell* last);
     void give_reference(const XmlElement& element, const std::string& reference);
     [[nodiscard]] std::string cell_source(const NewCell& cell, std::string_view prefix);
     [[nodiscard]] std::string row_source(std::int32_t row, const NewCell* first, const NewCell* last);

@@ -51,8 +51,8 @@ void RowXml::finish(RowFormat& format) const {
 
 RowFormat RowXml::read(const XmlElement& row) const {
     RowFormat format;
-    for (auto attribute = row.first_attribute(); attribute; attribute = row.attribute_after(*attribute))
-        read(format, attribute->name, attribute->raw);
+    for (auto attribute = row.first_attribute(); attribute; attribute = row.attribute_after(attribute))
+        read(format, attribute.name, attribute.raw);
     finish(format);
     return format;
 }

@@ -26,24 +26,24 @@ void TextEdits::set_attribute(const XmlElement& element, std::string_view name, 
                               std::string_view after) {
     std::size_t place = element.name_end();
     bool behind = false;
-    for (auto found = element.first_attribute(); found; found = element.attribute_after(*found)) {
-        if (found->name != name) {
-            if (!behind) place = found->end;
-            behind = behind || (!after.empty() && found->name == after);
+    for (auto found = element.first_attribute(); found; found = element.attribute_after(found)) {
+        if (found.name != name) {
+            if (!behind) place = found.end;
+            behind = behind || (!after.empty() && found.name == after);
             continue;
         }
         if (!value) {
-            std::size_t start = found->begin;
+            std::size_t start = found.begin;
             while (start > 0 && static_cast<unsigned char>(element.document()[start - 1]) <= ' ') --start;
-            remove(start, found->end - start);
+            remove(start, found.end - start);
             return;
         }
-        if (found->value() != *value) {
+        if (found.value() != *value) {
             // The value goes between the quotes that are there, so both kinds are escaped.
             std::string escaped = escaped_attribute(*value);
             for (auto quote = escaped.find('\''); quote != std::string::npos; quote = escaped.find('\'', quote))
                 escaped.replace(quote, 1, "&apos;");
-            replace(found->end - 1 - found->raw.size(), found->raw.size(), escaped);
+            replace(found.end - 1 - found.raw.size(), found.raw.size(), escaped);
         }
         return;
     }

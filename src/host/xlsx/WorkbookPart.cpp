@@ -40,8 +40,8 @@ DefinedName read_name(const XmlElement& element) {
 
 // The id of a sheet's relationship: the one attribute called "id" that has a prefix.
 std::string relationship_id(const XmlElement& sheet) {
-    for (auto attribute = sheet.first_attribute(); attribute; attribute = sheet.attribute_after(*attribute)) {
-        if (attribute->name.ends_with(":id")) return attribute->value();
+    for (auto attribute = sheet.first_attribute(); attribute; attribute = sheet.attribute_after(attribute)) {
+        if (attribute.name.ends_with(":id")) return attribute.value();
     }
     return {};
 }

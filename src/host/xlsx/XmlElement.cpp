@@ -118,33 +118,33 @@ std::size_t XmlElement::end() const {
     return end_;
 }
 
-std::optional<XmlAttribute> XmlElement::attribute_from(std::size_t at) const {
+XmlAttribute XmlElement::attribute_from(std::size_t at) const {
     const auto stop = tag_end_ - 1;  // the ">"
     while (at < stop && white(text_[at])) ++at;
-    if (at >= stop || text_[at] == '/') return std::nullopt;
+    if (at >= stop || text_[at] == '/') return {};
     XmlAttribute found;
     found.begin = at;
     while (at < stop && text_[at] != '=' && !white(text_[at])) ++at;
     found.name = text_.substr(found.begin, at - found.begin);
     while (at < stop && text_[at] != '"' && text_[at] != '\'') ++at;
-    if (at >= stop) return std::nullopt;
+    if (at >= stop) return {};
     const auto close = text_.find(text_[at], at + 1);
-    if (close == std::string_view::npos || close >= stop) return std::nullopt;
+    if (close == std::string_view::npos || close >= stop) return {};
     found.raw = text_.substr(at + 1, close - at - 1);
     found.end = close + 1;
     return found;
 }
 
 std::optional<XmlAttribute> XmlElement::attribute(std::string_view name) const {
-    for (auto found = first_attribute(); found; found = attribute_after(*found)) {
-        if (found->name == name) return found;
+    for (auto found = first_attribute(); found; found = attribute_after(found)) {
+        if (found.name == name) return found;
     }
     return std::nullopt;
 }
 
 std::size_t XmlElement::attributes_end() const {
     std::size_t end = name_end_;
-    for (auto found = first_attribute(); found; found = attribute_after(*found)) end = found->end;
+    for (auto found = first_attribute(); found; found = attribute_after(found)) end = found.end;
     return end;
 }
 

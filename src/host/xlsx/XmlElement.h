@@ -14,6 +14,7 @@ struct XmlAttribute {
     std::size_t begin = 0;
     std::size_t end = 0;
 
+    explicit operator bool() const { return end != 0; }  // whether there is one
     [[nodiscard]] std::string value() const;
 };
 
@@ -42,8 +43,8 @@ class XmlElement {
     [[nodiscard]] std::string_view document() const { return text_; }
 
     // Attributes in the order of the text; nothing after the last.
-    [[nodiscard]] std::optional<XmlAttribute> first_attribute() const { return attribute_from(name_end_); }
-    [[nodiscard]] std::optional<XmlAttribute> attribute_after(const XmlAttribute& attribute) const {
+    [[nodiscard]] XmlAttribute first_attribute() const { return attribute_from(name_end_); }
+    [[nodiscard]] XmlAttribute attribute_after(const XmlAttribute& attribute) const {
         return attribute_from(attribute.end);
     }
     [[nodiscard]] std::optional<XmlAttribute> attribute(std::string_view name) const;
@@ -61,7 +62,7 @@ class XmlElement {
     [[nodiscard]] std::string text() const;                             // character data of the element itself
 
   private:
-    [[nodiscard]] std::optional<XmlAttribute> attribute_from(std::size_t at) const;
+    [[nodiscard]] XmlAttribute attribute_from(std::size_t at) const;
     void locate_end() const;
 
     std::string_view text_;
