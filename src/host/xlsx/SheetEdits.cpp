@@ -76,7 +76,8 @@ void SheetEdits::properties() const {
 }
 
 void SheetEdits::dimension(const std::optional<Area>& grown) const {
-    const auto element = grown ? child("dimension") : XmlElement();
+    if (!grown) return;
+    const auto element = child("dimension");
     if (!element) return;
     const auto was = parse_area(element.value("ref"));
     if (!was || was->contains(*grown)) return;
