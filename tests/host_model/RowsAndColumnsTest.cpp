@@ -79,7 +79,7 @@ TEST(ColumnWidth, OfASheet) {
     Workbook workbook;
     Sheet& sheet = workbook.add_sheet("Sheet1");
     EXPECT_DOUBLE_EQ(sheet.column_width(1), 8.43);
-    sheet.default_column_width = 12.7109375;
+    sheet.defaults().default_column_width = 12.7109375;
     EXPECT_DOUBLE_EQ(sheet.column_width(1), 12);
     sheet.set_column_width(2, 3, 10.33);
     EXPECT_DOUBLE_EQ(sheet.column_width(3), 10.29);
@@ -114,7 +114,7 @@ TEST(RowHeight, RoundsToPixelsAndHides) {
 TEST(RowHeight, StaysZeroOnSheetsOfHiddenRows) {
     Workbook workbook;
     Sheet& sheet = workbook.add_sheet("Sheet1");
-    sheet.zero_height = true;
+    sheet.defaults().zero_height = true;
     sheet.restyle({1, 1, 1, last_column},
                   [&](StyleId id) { return workbook.styles.with_font(id, [](Font& font) { font.bold = true; }); });
     sheet.change_rows(2, 2, [](RowFormat& row) { row.outline_level = 1; });

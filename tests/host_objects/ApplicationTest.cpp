@@ -99,8 +99,8 @@ TEST_F(ApplicationTest, TheWindowLooksAtItsActiveSheet) {
     }
     for (const int zoom : {9, 401, -1}) EXPECT_EQ(refused(window, "Zoom", zoom), error_1004);
     put(window, "DisplayGridlines", false);
-    EXPECT_FALSE(inputs_sheet->view.show_gridlines);
-    EXPECT_TRUE(inputs_sheet->view.changed);
+    EXPECT_FALSE(inputs_sheet->view().show_gridlines);
+    EXPECT_TRUE(inputs_sheet->view().changed);
     call(sheet("It's Output"), "Activate");
     EXPECT_EQ(get(window, "Zoom"), Value(100));
     EXPECT_EQ(get(window, "DisplayGridlines"), Value(true));

@@ -98,7 +98,7 @@ TEST_F(ConditionsTest, RefusesWhatItCannotMake) {
     EXPECT_EQ(call_refused(all, "Add", {1, xlBetween, "1"}), error_1004);
     EXPECT_EQ(call_refused(all, "Add", {3}), error_1004);
     EXPECT_EQ(call_refused(all, "Item", {1}), automation::hresult::bad_index);
-    inputs_sheet->protection.on = true;
+    inputs_sheet->protection().on = true;
     EXPECT_EQ(call_refused(all, "Add", {1, 5, "1"}), error_1004);
     EXPECT_EQ(get(all, "Count"), Value(0));
 }

@@ -195,7 +195,7 @@ TEST_F(ContentTest, MergedCellsHoldTheirFirstContent) {
 TEST_F(ContentTest, AProtectedSheetKeepsItsLockedCells) {
     put(range("A1"), "Value", 1);
     put(range("B1"), "Locked", false);
-    inputs_sheet->protection.on = true;
+    inputs_sheet->protection().on = true;
     EXPECT_EQ(refused(range("A1"), "Value", 2), error_1004);
     EXPECT_EQ(refused(range("A1:B1"), "Formula", "=1"), error_1004);
     EXPECT_EQ(call_refused(range("A1"), "ClearContents"), error_1004);
@@ -211,10 +211,11 @@ TEST_F(ContentTest, AProtectedSheetKeepsItsLockedCells) {
         return codes;
     };
     EXPECT_EQ(format_everything(), std::vector<automation::HResult>(5, error_1004));
+    EXPECT_EQ(refused(range("B1"), "NumberFormat", "0.00"), ok);
     EXPECT_EQ(refused(range("A1"), "RowHeight", 20), error_1004);
     EXPECT_EQ(refused(range("A1"), "MergeCells", true), error_1004);
     EXPECT_EQ(get(range("A1"), "NumberFormat"), Value("General"));
-    inputs_sheet->protection.format_cells = true;
+    inputs_sheet->protection().format_cells = true;
     EXPECT_EQ(format_everything(), std::vector<automation::HResult>(5, ok));
     EXPECT_EQ(refused(range("A1"), "Locked", false), error_1004);
     EXPECT_EQ(refused(range("A1"), "ColumnWidth", 20), error_1004);

@@ -228,7 +228,7 @@ TEST_F(FormatTest, AnOutlineShowsItsLevels) {
     EXPECT_EQ(get(range("C:D"), "Hidden"), Value(true));
     EXPECT_EQ(call_refused(outline, "ShowLevels", {9}), error_1004);
     put(outline, "SummaryRow", xlSummaryAbove);
-    EXPECT_FALSE(inputs_sheet->summary_below);
+    EXPECT_FALSE(inputs_sheet->defaults().summary_below);
 }
 
 }  // namespace

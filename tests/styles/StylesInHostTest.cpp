@@ -183,7 +183,7 @@ TEST_F(StylesInHost, CaptureTakesTheFirstBorderedSideOfACellWhoseEdgesDiffer) {
 
 TEST_F(StylesInHost, AProtectedSheetStaysAsItIs) {
     const std::string before = look_of(cells("B2"));
-    workbook->sheet("Sheet1")->protection.on = true;
+    workbook->sheet("Sheet1")->protection().on = true;
     for (const char* request : {"19", "25", "26", "27", "28", "29", "30", "31"}) press("B2:D4", request);
     EXPECT_EQ(look_of(cells("B2")), before);
     EXPECT_THAT(presenter.messages(), testing::IsEmpty());

@@ -218,15 +218,15 @@ const Golden lines[] = {
     {"ViewAttributes",
      R"(<sheetViews><sheetView tabSelected="1" workbookViewId="0"><selection activeCell="B2"/></sheetView></sheetViews><sheetData/>)",
      [](Sheet& sheet) {
-         sheet.view.show_gridlines = false;
-         sheet.view.zoom = 85;
-         sheet.view.changed = true;
+         sheet.view().show_gridlines = false;
+         sheet.view().zoom = 85;
+         sheet.view().changed = true;
      },
      R"(<sheetViews><sheetView tabSelected="1" workbookViewId="0" showGridLines="0" zoomScale="85" zoomScaleNormal="85"><selection activeCell="B2"/></sheetView></sheetViews><sheetData/>)"},
     {"OutlineDirection", R"(<sheetPr><tabColor rgb="FF00FF00"/></sheetPr><sheetData/>)",
      [](Sheet& sheet) {
-         sheet.summary_below = false;
-         sheet.sheet_format_changed = true;
+         sheet.defaults().summary_below = false;
+         sheet.defaults().changed = true;
      },
      R"(<sheetPr><tabColor rgb="FF00FF00"/><outlinePr summaryBelow="0"/></sheetPr><sheetData/>)"},
 };

@@ -36,16 +36,16 @@ TEST(WorkbookFile, ReadsWhatTheSheetSaysBesidesItsCells) {
         R"(<sheetPr><tabColor theme="4" tint="-0.25"/><outlinePr summaryBelow="0"/></sheetPr><sheetViews><sheetView showGridLines="0" zoomScale="85" workbookViewId="0"><pane xSplit="1" ySplit="2" topLeftCell="B3" activePane="bottomRight" state="frozen"/><selection activeCell="A1" sqref="A1"/><selection pane="bottomRight" activeCell="D5" sqref="D5:E6 G1"/></sheetView></sheetViews><sheetFormatPr defaultRowHeight="13.5"/><sheetData><row r="1" ht="13.5"/><row r="2" ht="20" customHeight="1" outlineLevel="1"/></sheetData><sheetProtection sheet="1" formatCells="0"/>)");
     Sheet& sheet = *file->workbook().sheets()[0];
     sheet.ensure_loaded();
-    EXPECT_EQ(sheet.tab_color, Color::theme(4, -0.25));
-    EXPECT_FALSE(sheet.summary_below);
-    EXPECT_FALSE(sheet.view.show_gridlines);
-    EXPECT_EQ(sheet.view.zoom, 85);
-    EXPECT_EQ(sheet.view.frozen_rows, 2);
-    EXPECT_EQ(sheet.view.frozen_columns, 1);
-    EXPECT_EQ(sheet.view.active_cell, (Position{5, 4}));
-    EXPECT_EQ(sheet.view.selection.size(), 2U);
+    EXPECT_EQ(sheet.defaults().tab_color, Color::theme(4, -0.25));
+    EXPECT_FALSE(sheet.defaults().summary_below);
+    EXPECT_FALSE(sheet.view().show_gridlines);
+    EXPECT_EQ(sheet.view().zoom, 85);
+    EXPECT_EQ(sheet.view().frozen_rows, 2);
+    EXPECT_EQ(sheet.view().frozen_columns, 1);
+    EXPECT_EQ(sheet.view().active_cell, (Position{5, 4}));
+    EXPECT_EQ(sheet.view().selection.size(), 2U);
     EXPECT_EQ(sheet.row_formats().size(), 1U) << "a row that says no more than the standard is not kept";
-    EXPECT_TRUE(sheet.protection.on && sheet.protection.format_cells && !sheet.protection.format_rows);
+    EXPECT_TRUE(sheet.protection().on && sheet.protection().format_cells && !sheet.protection().format_rows);
 }
 
 TEST(WorkbookFile, KeepsEveryByteWithoutAChange) {

@@ -205,7 +205,7 @@ void Sheet::visit_cells(const Area& area, bool by_rows, const std::function<void
 
 bool Sheet::changed() const {
     return cells_changed || rows_changed || columns_.changed || merges_changed || conditional_formats_changed ||
-           sheet_format_changed || view.changed;
+           defaults_.changed || view_.changed;
 }
 
 }  // namespace kestrune::host

@@ -71,6 +71,19 @@ struct SheetProtection {
     bool delete_columns = false;
 };
 
+// What holds for rows and columns that say nothing of themselves, and how outlines are drawn.
+struct SheetDefaults {
+    double default_row_height = 15;      // points
+    double default_column_width = -1;    // characters as stored; negative: 8 characters and padding (base_column_width)
+    std::int32_t base_column_width = 8;  // characters
+    bool zero_height = false;            // rows are hidden unless they say otherwise
+    bool summary_below = true;
+    bool summary_right = true;
+    bool custom_default_height = false;  // default_row_height was set by someone, not measured
+    std::optional<Color> tab_color;
+    bool changed = false;  // differs from the file
+};
+
 // One sheet of a workbook. Its content is read from the file at the first touch.
 class Sheet {
   public:
@@ -147,14 +160,7 @@ class Sheet {
     void change_rows(std::int32_t first, std::int32_t last, const std::function<void(RowFormat&)>& change);
     [[nodiscard]] const std::map<std::int32_t, RowFormat>& row_formats();
     [[nodiscard]] ColumnRuns& columns();
-    double default_row_height = 15;      // points
-    double default_column_width = -1;    // characters as stored; negative: 8 characters and padding (base_column_width)
-    std::int32_t base_column_width = 8;  // characters
-    bool zero_height = false;            // rows are hidden unless they say otherwise
-    bool summary_below = true;
-    bool summary_right = true;
-    bool custom_default_height = false;  // default_row_height was set by someone, not measured
-    bool sheet_format_changed = false;
+    [[nodiscard]] SheetDefaults& defaults() { return ensure_loaded(), defaults_; }
 
     // Merged areas; they never overlap.
     [[nodiscard]] const std::vector<Area>& merges();
@@ -168,9 +174,8 @@ class Sheet {
     void delete_conditional_formats(const Area& area);  // from these cells only; other cells keep theirs
     bool conditional_formats_changed = false;
 
-    SheetView view;  // read with the sheet
-    SheetProtection protection;
-    std::optional<Color> tab_color;
+    [[nodiscard]] SheetView& view() { return ensure_loaded(), view_; }
+    [[nodiscard]] SheetProtection& protection() { return ensure_loaded(), protection_; }
 
     // Whether the sheet's part must be written anew.
     [[nodiscard]] bool changed() const;
@@ -226,6 +231,9 @@ class Sheet {
     ColumnRuns columns_;
     std::vector<Area> merges_;
     std::vector<ConditionalFormat> conditional_formats_;
+    SheetDefaults defaults_;
+    SheetView view_;
+    SheetProtection protection_;
 };
 
 }  // namespace kestrune::host

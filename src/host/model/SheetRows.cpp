@@ -8,15 +8,15 @@ namespace kestrune::host {
 
 RowFormat Sheet::new_row_format() const {
     RowFormat row;
-    row.hidden = zero_height;
+    row.hidden = defaults_.zero_height;
     return row;
 }
 
 double Sheet::row_height(std::int32_t row) {
     const RowFormat* format = row_format(row);
-    if (!format) return zero_height ? 0 : default_row_height;
+    if (!format) return defaults_.zero_height ? 0 : defaults_.default_row_height;
     if (format->hidden) return 0;
-    return format->height < 0 ? default_row_height : format->height;
+    return format->height < 0 ? defaults_.default_row_height : format->height;
 }
 
 const RowFormat* Sheet::row_format(std::int32_t row) {
@@ -66,13 +66,14 @@ void Sheet::set_row_height(std::int32_t first, std::int32_t last, double points)
     if (first == 1 && last == formula::max_rows) {
         ensure_loaded();
         const bool hides = height == 0;
-        if (zero_height != hides || (!hides && (default_row_height != height || !custom_default_height))) {
-            zero_height = hides;
+        if (defaults_.zero_height != hides ||
+            (!hides && (defaults_.default_row_height != height || !defaults_.custom_default_height))) {
+            defaults_.zero_height = hides;
             if (!hides) {
-                default_row_height = height;
-                custom_default_height = true;
+                defaults_.default_row_height = height;
+                defaults_.custom_default_height = true;
             }
-            sheet_format_changed = true;
+            defaults_.changed = true;
         }
         // Rows with a format of their own follow one by one.
         if (rows_.empty()) return;
@@ -105,8 +106,8 @@ ColumnRuns& Sheet::columns() {
 
 std::int32_t Sheet::default_column_pixels() const {
     const std::int32_t digit = workbook_.digit_pixels();
-    return default_column_width < 0 ? standard_column_pixels(base_column_width, digit)
-                                    : pixels_of_stored_width(default_column_width, digit);
+    return defaults_.default_column_width < 0 ? standard_column_pixels(defaults_.base_column_width, digit)
+                                              : pixels_of_stored_width(defaults_.default_column_width, digit);
 }
 
 std::int32_t Sheet::column_pixels(std::int32_t column) {

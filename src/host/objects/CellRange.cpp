@@ -30,11 +30,11 @@ void CellRange::restyle(std::string_view member, const std::function<StyleId(Sty
 }
 
 void CellRange::require_format_allowed(std::string_view member) const {
-    if (!sheet_->protection.format_cells) require_content_allowed(member);
+    if (!sheet_->protection().format_cells) require_content_allowed(member);
 }
 
 void CellRange::require_content_allowed(std::string_view member) const {
-    if (!sheet_->protection.on) return;
+    if (!sheet_->protection().on) return;
     for (const StyleId id : formats()) {
         if (styles().formats[id].protection.locked) {
             refuse(member, "a cell is locked and the sheet '" + sheet_->name() + "' is protected");

@@ -23,7 +23,7 @@ DifferentialFormat ConditionRule::differential() const {
 }
 
 void ConditionRule::require_changeable(std::string_view member) const {
-    if (sheet_->protection.on && !sheet_->protection.format_cells) {
+    if (sheet_->protection().on && !sheet_->protection().format_cells) {
         refuse(member, "the sheet '" + sheet_->name() + "' is protected against formatting");
     }
     if (!rule().source.empty() && (rule().formulas.empty() || format().extension)) {

@@ -54,7 +54,7 @@ void FormatConditionObject::modify(std::int32_t type, const Value& operation, co
     const Position first = rule_.format().areas.front().top_left();
     const bool active = session().active_sheet() == &rule_.sheet();
     ConditionalRule changed = condition_rule(member, type, operation, formula1, formula2,
-                                             active ? rule_.sheet().view.active_cell : first, first);
+                                             active ? rule_.sheet().view().active_cell : first, first);
     ConditionalRule& rule = rule_.rule();
     changed.priority = rule.priority;
     changed.differential = rule.differential;

@@ -39,7 +39,7 @@ ObjectRef FormatConditionsObject::add(std::int32_t type, const Value& operation,
     cells_.require_format_allowed(member);
     Sheet& sheet = cells_.sheet();
     const Position first = cells_.first().top_left();
-    const Position active = session().active_sheet() == &sheet ? sheet.view.active_cell : first;
+    const Position active = session().active_sheet() == &sheet ? sheet.view().active_cell : first;
     ConditionalRule rule = condition_rule(member, type, operation, formula1, formula2, active, first);
     auto& formats = sheet.conditional_formats();
     for (const ConditionalFormat& format : formats) {

@@ -41,7 +41,7 @@ void show_row_levels(Sheet& sheet, std::int32_t levels) {
         add(row + 1);
     }
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const bool collapsed = folds(lines, i, sheet.summary_below, levels);
+        const bool collapsed = folds(lines, i, sheet.defaults().summary_below, levels);
         const bool grouped = lines[i].level > 0;
         const bool hidden = lines[i].level >= levels;
         const RowFormat* format = sheet.row_format(lines[i].position);
@@ -61,7 +61,7 @@ void show_column_levels(Sheet& sheet, std::int32_t levels) {
         lines.push_back({column, sheet.columns().at(column).outline_level});
     }
     for (std::size_t i = 0; i < lines.size(); ++i) {
-        const bool collapsed = folds(lines, i, sheet.summary_right, levels);
+        const bool collapsed = folds(lines, i, sheet.defaults().summary_right, levels);
         const bool grouped = lines[i].level > 0;
         if (!grouped && collapsed == sheet.columns().at(lines[i].position).collapsed) continue;
         sheet.columns().change(lines[i].position, lines[i].position, [&](ColumnRun& run) {
@@ -75,23 +75,25 @@ void show_column_levels(Sheet& sheet, std::int32_t levels) {
 
 ObjectRef OutlineObject::parent() const { return sheet_object(session(), sheet_); }
 
-std::int32_t OutlineObject::summary_row() const { return sheet_.summary_below ? xlSummaryBelow : xlSummaryAbove; }
+std::int32_t OutlineObject::summary_row() const {
+    return sheet_.defaults().summary_below ? xlSummaryBelow : xlSummaryAbove;
+}
 
 void OutlineObject::set_summary_row(std::int32_t place) {
     if (place != xlSummaryAbove && place != xlSummaryBelow) refuse("Outline.SummaryRow", "there is no such place");
     sheet_.ensure_loaded();
-    sheet_.summary_below = place == xlSummaryBelow;
-    sheet_.sheet_format_changed = true;
+    sheet_.defaults().summary_below = place == xlSummaryBelow;
+    sheet_.defaults().changed = true;
     session().changed(sheet_.workbook());
 }
 
-std::int32_t OutlineObject::summary_column() const { return sheet_.summary_right ? xlRight : xlLeft; }
+std::int32_t OutlineObject::summary_column() const { return sheet_.defaults().summary_right ? xlRight : xlLeft; }
 
 void OutlineObject::set_summary_column(std::int32_t place) {
     if (place != xlLeft && place != xlRight) refuse("Outline.SummaryColumn", "there is no such place");
     sheet_.ensure_loaded();
-    sheet_.summary_right = place == xlRight;
-    sheet_.sheet_format_changed = true;
+    sheet_.defaults().summary_right = place == xlRight;
+    sheet_.defaults().changed = true;
     session().changed(sheet_.workbook());
 }
 
@@ -101,7 +103,7 @@ void OutlineObject::show_levels(const Value& row_levels, const Value& column_lev
     if (rows < 0 || rows > most_levels || columns < 0 || columns > most_levels) {
         refuse("Outline.ShowLevels", "an outline has 1 to 8 levels");
     }
-    if (sheet_.protection.on) refuse("Outline.ShowLevels", "the sheet is protected");
+    if (sheet_.protection().on) refuse("Outline.ShowLevels", "the sheet is protected");
     sheet_.ensure_loaded();
     if (rows > 0) show_row_levels(sheet_, rows);
     if (columns > 0) show_column_levels(sheet_, columns);

@@ -197,7 +197,7 @@ void RangeObject::clear_contents() { ContentWriter("Range.ClearContents", cells_
 void RangeObject::clear_formats() {
     cells_.restyle("Range.ClearFormats", [](StyleId) { return StyleId{0}; });
     for (const Area& area : cells_.areas()) {
-        if (!cells_.sheet().protection.on) cells_.sheet().unmerge(area);
+        if (!cells_.sheet().protection().on) cells_.sheet().unmerge(area);
         cells_.sheet().delete_conditional_formats(area);
     }
 }

@@ -187,7 +187,7 @@ Value RangeObject::locked() const {
 }
 
 void RangeObject::set_locked(bool on) {
-    if (cells_.sheet().protection.on) refuse("Range.Locked", "the sheet is protected");
+    if (cells_.sheet().protection().on) refuse("Range.Locked", "the sheet is protected");
     write_format("Range.Locked", [&](CellFormat& format) { format.protection.locked = on; });
 }
 
@@ -196,7 +196,7 @@ Value RangeObject::formula_hidden() const {
 }
 
 void RangeObject::set_formula_hidden(bool on) {
-    if (cells_.sheet().protection.on) refuse("Range.FormulaHidden", "the sheet is protected");
+    if (cells_.sheet().protection().on) refuse("Range.FormulaHidden", "the sheet is protected");
     write_format("Range.FormulaHidden", [&](CellFormat& format) { format.protection.hidden = on; });
 }
 

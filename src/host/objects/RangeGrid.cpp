@@ -58,8 +58,8 @@ bool all_of(const std::vector<Area>& areas, bool (Area::*property)() const) {
     return std::ranges::all_of(areas, [&](const Area& area) { return (area.*property)(); });
 }
 
-void require_allowed(const Sheet& sheet, bool allowed, std::string_view member) {
-    if (sheet.protection.on && !allowed) refuse(member, "the sheet '" + sheet.name() + "' is protected");
+void require_allowed(Sheet& sheet, bool allowed, std::string_view member) {
+    if (sheet.protection().on && !allowed) refuse(member, "the sheet '" + sheet.name() + "' is protected");
 }
 
 }  // namespace
@@ -76,7 +76,7 @@ Value RangeObject::row_height() const {
 void RangeObject::set_row_height(double points) {
     constexpr std::string_view member = "Range.RowHeight";
     if (!(points >= 0 && points <= tallest_row)) refuse(member, "a row's height is 0 to 409.5 points");
-    require_allowed(cells_.sheet(), cells_.sheet().protection.format_rows, member);
+    require_allowed(cells_.sheet(), cells_.sheet().protection().format_rows, member);
     for (const Area& area : cells_.areas()) cells_.sheet().set_row_height(area.first_row, area.last_row, points);
     cells_.changed();
 }
@@ -89,7 +89,7 @@ Value RangeObject::column_width() const {
 void RangeObject::set_column_width(double characters) {
     constexpr std::string_view member = "Range.ColumnWidth";
     if (!(characters >= 0 && characters <= widest_column)) refuse(member, "a column's width is 0 to 255 characters");
-    require_allowed(cells_.sheet(), cells_.sheet().protection.format_columns, member);
+    require_allowed(cells_.sheet(), cells_.sheet().protection().format_columns, member);
     for (const Area& area : cells_.areas()) {
         cells_.sheet().set_column_width(area.first_column, area.last_column, characters);
     }
@@ -136,7 +136,7 @@ void RangeObject::set_hidden(bool on) {
     if (!columns && !all_of(cells_.areas(), &Area::whole_rows)) {
         refuse(member, "only entire rows or columns can be hidden");
     }
-    require_allowed(sheet, columns ? sheet.protection.format_columns : sheet.protection.format_rows, member);
+    require_allowed(sheet, columns ? sheet.protection().format_columns : sheet.protection().format_rows, member);
     for (const Area& area : cells_.areas()) {
         if (columns) {
             show_columns(sheet, area.first_column, area.last_column, !on);

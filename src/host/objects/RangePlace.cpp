@@ -24,8 +24,10 @@ std::string external_prefix(const Sheet& sheet) {
     return prefix + '!';
 }
 
-// The area grown until no merged area lies partly inside.
+// The area grown until no merged area lies partly inside. Whole rows and columns stay what was asked for: a merged
+// title must not make one column ten.
 Area with_merges(Sheet& sheet, Area area) {
+    if (area.whole_rows() || area.whole_columns()) return area;
     for (bool grown = true; grown;) {
         grown = false;
         for (const Area& merge : sheet.merges()) {
@@ -84,20 +86,20 @@ void RangeObject::select() {
     if (session().active_sheet() != &sheet) {
         refuse("Range.Select", "the sheet '" + sheet.name() + "' is not the active one");
     }
-    sheet.view.selection.clear();
-    for (const Area& area : cells_.areas()) sheet.view.selection.push_back(with_merges(sheet, area));
-    sheet.view.active_cell = sheet.view.selection.front().top_left();
-    sheet.view.selection_changed = true;
+    sheet.view().selection.clear();
+    for (const Area& area : cells_.areas()) sheet.view().selection.push_back(with_merges(sheet, area));
+    sheet.view().active_cell = sheet.view().selection.front().top_left();
+    sheet.view().selection_changed = true;
 }
 
 void RangeObject::activate() {
     Sheet& sheet = cells_.sheet();
     const Position cell = cells_.first().top_left();
     if (session().active_sheet() == &sheet) {
-        for (const Area& area : sheet.view.selection) {
+        for (const Area& area : sheet.view().selection) {
             if (!area.contains(cell)) continue;
-            sheet.view.active_cell = cell;
-            sheet.view.selection_changed = true;
+            sheet.view().active_cell = cell;
+            sheet.view().selection_changed = true;
             return;
         }
     }

@@ -54,8 +54,8 @@ double standard_width(Sheet& sheet) {
 void set_standard_width(Sheet& sheet, double characters) {
     sheet.ensure_loaded();
     const std::int32_t digit = sheet.workbook().digit_pixels();
-    sheet.default_column_width = stored_width_of_pixels(pixels_of_characters(characters, digit), digit);
-    sheet.sheet_format_changed = true;
+    sheet.defaults().default_column_width = stored_width_of_pixels(pixels_of_characters(characters, digit), digit);
+    sheet.defaults().changed = true;
 }
 
 void keep_first_content(Sheet& sheet, const Area& area) {

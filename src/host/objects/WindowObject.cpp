@@ -29,7 +29,7 @@ Sheet& WindowObject::sheet() const {
 }
 
 void WindowObject::view_changed(Sheet& sheet) const {
-    sheet.view.changed = true;
+    sheet.view().changed = true;
     session().changed(*opened_.model);
 }
 
@@ -43,51 +43,51 @@ ObjectRef WindowObject::active_sheet() const {
 ObjectRef WindowObject::active_cell() const {
     Sheet* sheet = worksheet();
     if (!sheet) return nullptr;
-    return std::make_shared<RangeObject>(CellRange(session(), *sheet, {Area::cell(sheet->view.active_cell)}));
+    return std::make_shared<RangeObject>(CellRange(session(), *sheet, {Area::cell(sheet->view().active_cell)}));
 }
 
 ObjectRef WindowObject::selection() const {
     Sheet* sheet = worksheet();
     if (!sheet) return nullptr;
-    std::vector<Area> areas = sheet->view.selection;
-    if (areas.empty()) areas.push_back(Area::cell(sheet->view.active_cell));
+    std::vector<Area> areas = sheet->view().selection;
+    if (areas.empty()) areas.push_back(Area::cell(sheet->view().active_cell));
     return std::make_shared<RangeObject>(CellRange(session(), *sheet, std::move(areas)));
 }
 
-std::int32_t WindowObject::zoom() const { return sheet().view.zoom; }
+std::int32_t WindowObject::zoom() const { return sheet().view().zoom; }
 
 void WindowObject::set_zoom(std::int32_t percent) {
     if (percent < 10 || percent > 400) refuse("Window.Zoom", "a zoom is 10 to 400 per cent");
     Sheet& shown = sheet();
-    if (shown.view.zoom == percent) return;
-    shown.view.zoom = percent;
+    if (shown.view().zoom == percent) return;
+    shown.view().zoom = percent;
     view_changed(shown);
 }
 
-bool WindowObject::display_gridlines() const { return sheet().view.show_gridlines; }
+bool WindowObject::display_gridlines() const { return sheet().view().show_gridlines; }
 
 void WindowObject::set_display_gridlines(bool shown) {
-    sheet().view.show_gridlines = shown;
+    sheet().view().show_gridlines = shown;
     view_changed(sheet());
 }
 
-bool WindowObject::display_headings() const { return sheet().view.show_headings; }
+bool WindowObject::display_headings() const { return sheet().view().show_headings; }
 
 void WindowObject::set_display_headings(bool shown) {
-    sheet().view.show_headings = shown;
+    sheet().view().show_headings = shown;
     view_changed(sheet());
 }
 
-bool WindowObject::display_zeros() const { return sheet().view.show_zeros; }
+bool WindowObject::display_zeros() const { return sheet().view().show_zeros; }
 
 void WindowObject::set_display_zeros(bool shown) {
-    sheet().view.show_zeros = shown;
+    sheet().view().show_zeros = shown;
     view_changed(sheet());
 }
 
 bool WindowObject::freeze_panes() const { return split_row() > 0 || split_column() > 0; }
-std::int32_t WindowObject::split_row() const { return sheet().view.frozen_rows; }
-std::int32_t WindowObject::split_column() const { return sheet().view.frozen_columns; }
+std::int32_t WindowObject::split_row() const { return sheet().view().frozen_rows; }
+std::int32_t WindowObject::split_column() const { return sheet().view().frozen_columns; }
 
 std::int32_t WindowObject::scroll_row() const {
     const auto place = opened_.scroll.find(&sheet());

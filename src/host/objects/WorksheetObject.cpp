@@ -53,7 +53,7 @@ double WorksheetObject::standard_width() const { return host::standard_width(she
 
 void WorksheetObject::set_standard_width(double characters) {
     if (!(characters >= 0 && characters <= 255)) refuse("Worksheet.StandardWidth", "a width is 0 to 255 characters");
-    if (sheet().protection.on) refuse("Worksheet.StandardWidth", "the sheet is protected");
+    if (sheet().protection().on) refuse("Worksheet.StandardWidth", "the sheet is protected");
     host::set_standard_width(sheet(), characters);
     session().changed(sheet().workbook());
 }

@@ -19,7 +19,7 @@ class WorksheetObject final : public SheetObject<WorksheetObject> {
     [[nodiscard]] ObjectRef outline() const;
     [[nodiscard]] double standard_width() const;  // characters of the Normal font
     void set_standard_width(double characters);   // 0 to 255
-    [[nodiscard]] double standard_height() const { return sheet().default_row_height; }  // points
+    [[nodiscard]] double standard_height() const { return sheet().defaults().default_row_height; }  // points
     void set_visible(const Value& visibility);  // XlSheetVisibility; one sheet stays visible
 };
 

@@ -31,7 +31,7 @@ CellEdits::CellEdits(std::string_view text, Sheet& sheet, const SheetLayout& lay
     : text_(text),
       sheet_(sheet),
       layout_(layout),
-      row_xml_{sheet.default_row_height, formats.in_file()},
+      row_xml_{sheet.defaults().default_row_height, formats.in_file()},
       formats_(formats),
       edits_(edits) {
     if (layout.sheet_data >= 0)

@@ -37,10 +37,10 @@ std::uint64_t key_of(const Area& area) {
 bool before(const Area& a, const Area& b) { return key_of(a) < key_of(b); }
 
 // Characters that a column of standard width shows and stores, padding included.
-double standard_width(const Sheet& sheet) {
-    if (sheet.default_column_width >= 0) return sheet.default_column_width;
+double standard_width(Sheet& sheet) {
+    if (sheet.defaults().default_column_width >= 0) return sheet.defaults().default_column_width;
     const int digit = std::max(sheet.workbook().digit_pixels(), 1);
-    const int pixels = (sheet.base_column_width * digit + 5 + 7) / 8 * 8;
+    const int pixels = (sheet.defaults().base_column_width * digit + 5 + 7) / 8 * 8;
     return std::trunc(pixels * 256.0 / digit) / 256;
 }
 
@@ -58,13 +58,14 @@ void SheetEdits::properties() const {
     const auto element = child("sheetPr");
     const auto outline = element ? element.child("outlinePr") : XmlElement();
     if (outline) {
-        set_flag(edits, outline, "summaryBelow", sheet.summary_below, true);
-        set_flag(edits, outline, "summaryRight", sheet.summary_right, true);
+        set_flag(edits, outline, "summaryBelow", sheet.defaults().summary_below, true);
+        set_flag(edits, outline, "summaryRight", sheet.defaults().summary_right, true);
         return;
     }
-    if (sheet.summary_below && sheet.summary_right) return;
-    std::string source = fmt::format("<{}outlinePr{}{}/>", prefix(), sheet.summary_below ? "" : " summaryBelow=\"0\"",
-                                     sheet.summary_right ? "" : " summaryRight=\"0\"");
+    if (sheet.defaults().summary_below && sheet.defaults().summary_right) return;
+    std::string source =
+        fmt::format("<{}outlinePr{}{}/>", prefix(), sheet.defaults().summary_below ? "" : " summaryBelow=\"0\"",
+                    sheet.defaults().summary_right ? "" : " summaryRight=\"0\"");
     if (!element) {
         add_child("sheetPr", fmt::format("<{0}sheetPr>{1}</{0}sheetPr>", prefix(), source));
     } else if (element.empty()) {
@@ -87,7 +88,7 @@ void SheetEdits::dimension(const std::optional<Area>& grown) const {
 }
 
 void SheetEdits::view() const {
-    const SheetView& view = sheet.view;
+    const SheetView& view = sheet.view();
     const auto views = child("sheetViews");
     const auto element = views ? views.child("sheetView") : XmlElement();
     if (!element) {
@@ -124,17 +125,18 @@ void SheetEdits::standard_sizes() const {
     for (const auto& run : sheet.columns().runs()) columns = std::max(columns, run.outline_level);
     const auto element = child("sheetFormatPr");
     if (!element) {
-        const bool usual = rows == 0 && columns == 0 && sheet.base_column_width == 8 &&
-                           sheet.default_column_width < 0 && sheet.default_row_height == 15 &&
-                           !sheet.custom_default_height && !sheet.zero_height;
+        const bool usual = rows == 0 && columns == 0 && sheet.defaults().base_column_width == 8 &&
+                           sheet.defaults().default_column_width < 0 && sheet.defaults().default_row_height == 15 &&
+                           !sheet.defaults().custom_default_height && !sheet.defaults().zero_height;
         if (usual) return;
         std::string source = fmt::format("<{}sheetFormatPr", prefix());
-        if (sheet.base_column_width != 8) source += fmt::format(" baseColWidth=\"{}\"", sheet.base_column_width);
-        if (sheet.default_column_width >= 0)
-            source += fmt::format(" defaultColWidth=\"{}\"", number_text(sheet.default_column_width));
-        source += fmt::format(" defaultRowHeight=\"{}\"", number_text(sheet.default_row_height));
-        if (sheet.custom_default_height) source += " customHeight=\"1\"";
-        if (sheet.zero_height) source += " zeroHeight=\"1\"";
+        if (sheet.defaults().base_column_width != 8)
+            source += fmt::format(" baseColWidth=\"{}\"", sheet.defaults().base_column_width);
+        if (sheet.defaults().default_column_width >= 0)
+            source += fmt::format(" defaultColWidth=\"{}\"", number_text(sheet.defaults().default_column_width));
+        source += fmt::format(" defaultRowHeight=\"{}\"", number_text(sheet.defaults().default_row_height));
+        if (sheet.defaults().custom_default_height) source += " customHeight=\"1\"";
+        if (sheet.defaults().zero_height) source += " zeroHeight=\"1\"";
         if (rows != 0) source += fmt::format(" outlineLevelRow=\"{}\"", rows);
         if (columns != 0) source += fmt::format(" outlineLevelCol=\"{}\"", columns);
         add_child("sheetFormatPr", source + "/>");
@@ -148,18 +150,20 @@ void SheetEdits::standard_sizes() const {
     // Excel draws the outline's buttons only when these say how deep it is.
     if (sheet.rows_changed) level("outlineLevelRow", rows);
     if (sheet.columns().changed) level("outlineLevelCol", columns);
-    if (!sheet.sheet_format_changed) return;
-    if (element.integer("baseColWidth", 8) != sheet.base_column_width)
-        edits.set_attribute(element, "baseColWidth", std::to_string(sheet.base_column_width));
-    if (element.number("defaultColWidth", -1) != sheet.default_column_width) {
-        const auto width = sheet.default_column_width >= 0 ? number_text(sheet.default_column_width) : std::string();
+    if (!sheet.defaults().changed) return;
+    if (element.integer("baseColWidth", 8) != sheet.defaults().base_column_width)
+        edits.set_attribute(element, "baseColWidth", std::to_string(sheet.defaults().base_column_width));
+    if (element.number("defaultColWidth", -1) != sheet.defaults().default_column_width) {
+        const auto width = sheet.defaults().default_column_width >= 0
+                               ? number_text(sheet.defaults().default_column_width)
+                               : std::string();
         edits.set_attribute(element, "defaultColWidth",
                             width.empty() ? std::nullopt : std::optional<std::string_view>(width));
     }
-    if (element.number("defaultRowHeight", 15) != sheet.default_row_height)
-        edits.set_attribute(element, "defaultRowHeight", number_text(sheet.default_row_height));
-    set_flag(edits, element, "customHeight", sheet.custom_default_height, false);
-    set_flag(edits, element, "zeroHeight", sheet.zero_height, false);
+    if (element.number("defaultRowHeight", 15) != sheet.defaults().default_row_height)
+        edits.set_attribute(element, "defaultRowHeight", number_text(sheet.defaults().default_row_height));
+    set_flag(edits, element, "customHeight", sheet.defaults().custom_default_height, false);
+    set_flag(edits, element, "zeroHeight", sheet.defaults().zero_height, false);
 }
 
 void SheetEdits::columns() const {

@@ -156,7 +156,7 @@ class SheetReader : public XmlParser {
         const XmlElement child(text_, layout_.children.back().begin);
         if (child.local() != "sheetFormatPr") return;
         read_sheet_child(package(), part(), child, sheet_);
-        row_xml_.default_height = sheet_.default_row_height;
+        row_xml_.default_height = sheet_.defaults().default_row_height;
     }
 
     void start_row(XmlAttributes attributes) {

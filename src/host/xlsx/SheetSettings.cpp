@@ -28,10 +28,10 @@ struct Reading {
 };
 
 void read_properties(const Reading& reading, const XmlElement& element) {
-    if (const auto color = element.child("tabColor")) reading.sheet.tab_color = read_color(color);
+    if (const auto color = element.child("tabColor")) reading.sheet.defaults().tab_color = read_color(color);
     if (const auto outline = element.child("outlinePr")) {
-        reading.sheet.summary_below = outline.flag("summaryBelow", true);
-        reading.sheet.summary_right = outline.flag("summaryRight", true);
+        reading.sheet.defaults().summary_below = outline.flag("summaryBelow", true);
+        reading.sheet.defaults().summary_right = outline.flag("summaryRight", true);
     }
 }
 
@@ -48,7 +48,7 @@ std::int32_t frozen(const XmlElement& pane, std::string_view name, std::int32_t 
 void read_views(const Reading& reading, const XmlElement& element) {
     const auto first = element.child("sheetView");
     if (!first) return;
-    SheetView& view = reading.sheet.view;
+    SheetView& view = reading.sheet.view();
     view.show_gridlines = first.flag("showGridLines", true);
     view.show_headings = first.flag("showRowColHeaders", true);
     view.show_zeros = first.flag("showZeros", true);
@@ -72,12 +72,12 @@ void read_views(const Reading& reading, const XmlElement& element) {
 
 void read_standard_sizes(const Reading& reading, const XmlElement& element) {
     Sheet& sheet = reading.sheet;
-    sheet.default_row_height = element.number("defaultRowHeight", sheet.default_row_height);
-    sheet.default_column_width = element.number("defaultColWidth", -1);
-    sheet.base_column_width =
+    sheet.defaults().default_row_height = element.number("defaultRowHeight", sheet.defaults().default_row_height);
+    sheet.defaults().default_column_width = element.number("defaultColWidth", -1);
+    sheet.defaults().base_column_width =
         static_cast<std::int32_t>(std::clamp<std::int64_t>(element.integer("baseColWidth", 8), 0, 255));
-    sheet.custom_default_height = element.flag("customHeight");
-    sheet.zero_height = element.flag("zeroHeight");
+    sheet.defaults().custom_default_height = element.flag("customHeight");
+    sheet.defaults().zero_height = element.flag("zeroHeight");
 }
 
 void read_columns(const Reading& reading, const XmlElement& element) {
@@ -94,7 +94,7 @@ void read_columns(const Reading& reading, const XmlElement& element) {
 }
 
 void read_protection(const Reading& reading, const XmlElement& element) {
-    SheetProtection& protection = reading.sheet.protection;
+    SheetProtection& protection = reading.sheet.protection();
     protection.on = element.flag("sheet");
     // The file says what is locked.
     protection.format_cells = !element.flag("formatCells", true);

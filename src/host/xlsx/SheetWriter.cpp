@@ -21,9 +21,9 @@ SheetText write_sheet(std::string text, Sheet& sheet, const SheetLayout& layout,
     const SheetEdits part{text, sheet, layout, formats, edits};
     CellEdits cells(text, sheet, layout, formats, edits);
     // Children that the file lacks go in one after the other, so the order here is that of the schema.
-    if (sheet.sheet_format_changed) part.properties();
-    if (sheet.view.changed) part.view();
-    if (sheet.sheet_format_changed || sheet.rows_changed || sheet.columns().changed) part.standard_sizes();
+    if (sheet.defaults().changed) part.properties();
+    if (sheet.view().changed) part.view();
+    if (sheet.defaults().changed || sheet.rows_changed || sheet.columns().changed) part.standard_sizes();
     if (sheet.columns().changed) part.columns();
     cells.run();
     part.dimension(cells.grown());
