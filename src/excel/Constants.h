@@ -66,4 +66,10 @@ inline constexpr std::int32_t xlCalculationAutomatic = -4105;
 inline constexpr std::int32_t xlMaximized = -4137;
 inline constexpr std::int32_t xlNormal = -4143;
 
+// XlSheetVisibility
+inline constexpr std::int32_t xlSheetVisible = -1;
+
+// XlReferenceStyle
+inline constexpr std::int32_t xlA1 = 1;
+
 }  // namespace kestrune::excel

@@ -1,0 +1,23 @@
+# Completion of kestrune for bash.
+_kestrune() {
+    local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command=${COMP_WORDS[1]}
+    if ((COMP_CWORD == 1)); then
+        COMPREPLY=($(compgen -W "run commands cell show diff --help --version" -- "$word"))
+        return
+    fi
+    case $previous in
+        --answer) COMPREPLY=($(compgen -W "ok cancel yes no ask" -- "$word")); return ;;
+        --color) COMPREPLY=($(compgen -W "auto always never" -- "$word")); return ;;
+    esac
+    if [[ $word == -* ]]; then
+        case $command in
+            run) COMPREPLY=($(compgen -W "-o --output --in-place --answer --json --trace --help" -- "$word")) ;;
+            show) COMPREPLY=($(compgen -W "--html --color --help" -- "$word")) ;;
+            commands | cell | diff) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
+        esac
+        return
+    fi
+    compopt -o filenames
+    COMPREPLY=($(compgen -f -- "$word"))
+}
+complete -F _kestrune kestrune

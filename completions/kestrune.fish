@@ -1,0 +1,13 @@
+# Completion of kestrune for fish.
+complete -c kestrune -n __fish_use_subcommand -f -a run -d 'Run steps on a workbook'
+complete -c kestrune -n __fish_use_subcommand -f -a commands -d 'List the commands'
+complete -c kestrune -n __fish_use_subcommand -f -a cell -d 'Describe cells'
+complete -c kestrune -n __fish_use_subcommand -f -a show -d 'Show a sheet'
+complete -c kestrune -n __fish_use_subcommand -f -a diff -d 'Compare two workbooks'
+complete -c kestrune -n '__fish_seen_subcommand_from run' -s o -l output -r -d 'Where to save'
+complete -c kestrune -n '__fish_seen_subcommand_from run' -l in-place -d 'Save over the workbook'
+complete -c kestrune -n '__fish_seen_subcommand_from run' -l answer -x -a 'ok cancel yes no ask' -d 'Answer to questions'
+complete -c kestrune -n '__fish_seen_subcommand_from run' -l trace -d 'Tell what was skipped'
+complete -c kestrune -n '__fish_seen_subcommand_from run commands cell diff' -l json -d 'As JSON'
+complete -c kestrune -n '__fish_seen_subcommand_from show' -l html -r -d 'Write a page'
+complete -c kestrune -n '__fish_seen_subcommand_from show' -l color -x -a 'auto always never' -d 'Colours in the terminal'

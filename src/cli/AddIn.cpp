@@ -1,0 +1,22 @@
+#include "cli/AddIn.h"
+
+#include "automation/CreateObject.h"
+#include "brvblib/register_library.h"
+#include "brxllib/register_library.h"
+#include "cli/Failure.h"
+#include "core/register_add_in.h"
+
+namespace kestrune::cli {
+
+AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace) {
+    brvblib::register_library(trace);
+    brxllib::register_library(trace);
+    core::register_add_in(presenter, trace);
+    public_ = automation::CreateObject("KestruneXL.iPublic");
+    // The workbook that stands for the companion add-in is the one being worked on: it has no other here.
+    automation::call(*public_, "NewPublic", {application.object(), application.ActiveWorkbook().object()});
+    global_ = automation::to_object(automation::call(*public_, "NewGlobal"));
+    if (!global_) throw Failure("the add-in did not start");
+}
+
+}  // namespace kestrune::cli

@@ -1,0 +1,47 @@
+#include "cli/CommandsCommand.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+#include "brvblib/CommandTexts.h"
+#include "core/CommandTable.h"
+
+namespace kestrune::cli {
+namespace {
+
+const brvblib::CommandText& text_of(const core::Command& command) {
+    return brvblib::command_texts[static_cast<std::size_t>(command.number)];
+}
+
+}  // namespace
+
+void list_commands(bool json) {
+    if (json) {
+        nlohmann::ordered_json rows = nlohmann::ordered_json::array();
+        for (const core::Command& command : core::commands()) {
+            const brvblib::CommandText& text = text_of(command);
+            rows.push_back({{"number", command.number},
+                            {"name", text.name},
+                            {"description", text.description},
+                            {"key", text.key},
+                            {"group", text.group},
+                            {"parameter", command.takes_parameter},
+                            {"undo", command.undo},
+                            {"available", command.body != nullptr}});
+        }
+        fmt::print("{}\n", rows.dump(1));
+        return;
+    }
+    std::string_view group;
+    for (const core::Command& command : core::commands()) {
+        const brvblib::CommandText& text = text_of(command);
+        if (text.group != group) fmt::print("{}{}\n", group.empty() ? "" : "\n", text.group);
+        group = text.group;
+        fmt::print("{:>5}{:<3} {:<34} {}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
+                   text.description, command.body ? "" : " (not available yet)");
+    }
+}
+
+}  // namespace kestrune::cli

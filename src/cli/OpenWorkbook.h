@@ -1,0 +1,31 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "excel/Application.h"
+#include "host/objects/HostSession.h"
+#include "host/xlsx/WorkbookFile.h"
+
+namespace kestrune::cli {
+
+// A workbook open in the embedded Excel, as its only and active one.
+class OpenWorkbook {
+  public:
+    // Fails with host::PackageError for whatever is wrong with the file.
+    explicit OpenWorkbook(const std::string& path);
+
+    [[nodiscard]] excel::Application application() const { return application_; }
+    [[nodiscard]] host::Workbook& model() { return file_->workbook(); }
+    [[nodiscard]] const host::HostSession& session() const { return session_; }
+    [[nodiscard]] host::PackageKind kind() const { return file_->package().kind(); }
+    // Writes the workbook whole or not at all; the path may be the one it was opened from.
+    void save(const std::string& path) { file_->save(path); }
+
+  private:
+    std::unique_ptr<host::WorkbookFile> file_;
+    host::HostSession session_;
+    excel::Application application_;
+};
+
+}  // namespace kestrune::cli

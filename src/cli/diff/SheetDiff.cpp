@@ -1,0 +1,271 @@
+#include "cli/diff/SheetDiff.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+#include <set>
+
+#include "cli/diff/Rectangles.h"
+#include "formula/A1.h"
+#include "formula/SheetName.h"
+#include "host/number_format/GeneralText.h"
+#include "host/objects/ErrorValues.h"
+
+namespace kestrune::cli {
+namespace {
+
+using formula::Area;
+using formula::Position;
+
+std::string text_of(const host::CellContent& content) {
+    switch (content.kind) {
+        case host::CellKind::Blank:
+            return "";
+        case host::CellKind::Number:
+            return host::full_number_text(content.number);
+        case host::CellKind::Boolean:
+            return content.boolean ? "TRUE" : "FALSE";
+        case host::CellKind::Error:
+            return std::string(host::text_of_error(content.error));
+        case host::CellKind::String:
+            return content.text;
+    }
+    return "";
+}
+
+std::string areas_text(const std::vector<Area>& areas) {
+    std::string out;
+    for (const Area& area : areas) {
+        if (!out.empty()) out += ',';
+        out += formula::area_text(area);
+    }
+    return out;
+}
+
+std::string rules_text(const std::vector<host::ConditionalFormat>& formats) {
+    std::vector<std::string> lines;
+    for (const host::ConditionalFormat& format : formats) {
+        for (const host::ConditionalRule& rule : format.rules) {
+            lines.push_back(fmt::format("{} {} {} {}", areas_text(format.areas), rule.type, rule.operator_name,
+                                        fmt::join(rule.formulas, " ")));
+        }
+    }
+    std::ranges::sort(lines);
+    return fmt::format("{}", fmt::join(lines, "; "));
+}
+
+}  // namespace
+
+SheetDiff::SheetDiff(host::Sheet& before, host::Sheet& after, FormatFactsOf& before_facts, FormatFactsOf& after_facts,
+                     bool each_cell, const ChangeSink& tell)
+    : before_(before),
+      after_(after),
+      before_facts_(before_facts),
+      after_facts_(after_facts),
+      each_cell_(each_cell),
+      tell_(tell) {}
+
+void SheetDiff::run() {
+    settings();
+    if (before_.kind() != host::SheetKind::Worksheet || after_.kind() != host::SheetKind::Worksheet) return;
+    columns();
+    rows();
+    collect_cells();
+    tell_cells();
+}
+
+std::string SheetDiff::on_sheet(const std::string& reference) const {
+    return fmt::format("{}!{}", formula::quoted_sheet(after_.name()), reference);
+}
+
+void SheetDiff::tell_if_changed(const std::string& place, std::string_view property, std::string before,
+                                std::string after) {
+    if (before != after) tell_({place, std::string(property), std::move(before), std::move(after)});
+}
+
+void SheetDiff::settings() {
+    const std::string place = formula::quoted_sheet(after_.name());
+    const auto number = [](double value) { return fmt::format("{:.4g}", value); };
+    const auto flag = [](bool value) { return std::string(value ? "True" : "False"); };
+    const auto visible = [](host::Visibility v) { return fmt::format("{}", static_cast<int>(v)); };
+    tell_if_changed(place, "Visible", visible(before_.visibility), visible(after_.visibility));
+    if (before_.kind() != host::SheetKind::Worksheet || after_.kind() != host::SheetKind::Worksheet) return;
+    before_.ensure_loaded();
+    after_.ensure_loaded();
+    tell_if_changed(place, "Window.Zoom", number(before_.view().zoom), number(after_.view().zoom));
+    tell_if_changed(place, "Window.DisplayGridlines", flag(before_.view().show_gridlines),
+                    flag(after_.view().show_gridlines));
+    tell_if_changed(place, "Window.DisplayHeadings", flag(before_.view().show_headings),
+                    flag(after_.view().show_headings));
+    tell_if_changed(place, "StandardHeight", number(before_.defaults().default_row_height),
+                    number(after_.defaults().default_row_height));
+    tell_if_changed(place, "StandardWidth", number(before_.defaults().default_column_width),
+                    number(after_.defaults().default_column_width));
+    tell_if_changed(place, "ProtectContents", flag(before_.protection().on), flag(after_.protection().on));
+    auto merges = [](host::Sheet& sheet) {
+        std::vector<Area> areas = sheet.merges();
+        std::ranges::sort(areas, {}, &Area::top_left);
+        return areas_text(areas);
+    };
+    tell_if_changed(place, "MergeCells", merges(before_), merges(after_));
+    tell_if_changed(place, "FormatConditions", rules_text(before_.conditional_formats()),
+                    rules_text(after_.conditional_formats()));
+}
+
+void SheetDiff::columns() {
+    // Both sheets' runs cut the columns into stretches that are alike on either side.
+    std::set<std::int32_t> starts{1};
+    for (host::Sheet* sheet : {&before_, &after_}) {
+        for (const host::ColumnRun& run : sheet->columns().runs()) {
+            starts.insert(run.first);
+            if (run.last < formula::max_columns) starts.insert(run.last + 1);
+        }
+    }
+    LineChanges changes;
+    for (auto start = starts.begin(); start != starts.end(); ++start) {
+        const std::int32_t first = *start;
+        const std::int32_t last = std::next(start) == starts.end() ? formula::max_columns : *std::next(start) - 1;
+        const host::ColumnRun a = before_.columns().at(first), b = after_.columns().at(first);
+        const auto note = [&](std::string_view property, const std::string& was, const std::string& is) {
+            changes.add(first, last, property, was, is);
+        };
+        note("ColumnWidth", fmt::format("{:.4g}", before_.column_width(first)),
+             fmt::format("{:.4g}", after_.column_width(first)));
+        note("Hidden", a.hidden ? "True" : "False", b.hidden ? "True" : "False");
+        note("OutlineLevel", fmt::format("{}", a.outline_level + 1), fmt::format("{}", b.outline_level + 1));
+        tell_line_format(changes, first, last, {a.style, b.style});
+    }
+    for (const LineChanges::Line& line : changes.lines()) {
+        tell_({on_sheet(formula::area_text({1, line.first, formula::max_rows, line.last})), line.property, line.before,
+               line.after});
+    }
+}
+
+void SheetDiff::rows() {
+    std::set<std::int32_t> rows;
+    for (host::Sheet* sheet : {&before_, &after_}) {
+        for (const auto& [row, format] : sheet->row_formats()) rows.insert(row);
+    }
+    const host::RowFormat plain;
+    LineChanges changes;
+    for (const std::int32_t row : rows) {
+        const host::RowFormat* stored_a = before_.row_format(row);
+        const host::RowFormat* stored_b = after_.row_format(row);
+        const host::RowFormat& a = stored_a ? *stored_a : plain;
+        const host::RowFormat& b = stored_b ? *stored_b : plain;
+        const auto note = [&](std::string_view property, const std::string& was, const std::string& is) {
+            changes.add(row, row, property, was, is);
+        };
+        note("RowHeight", fmt::format("{:.4g}", before_.row_height(row)),
+             fmt::format("{:.4g}", after_.row_height(row)));
+        note("Hidden", a.hidden ? "True" : "False", b.hidden ? "True" : "False");
+        note("OutlineLevel", fmt::format("{}", a.outline_level + 1), fmt::format("{}", b.outline_level + 1));
+        if (a.has_style || b.has_style) {
+            tell_line_format(changes, row, row, {a.has_style ? a.style : 0, b.has_style ? b.style : 0});
+        }
+    }
+    for (const LineChanges::Line& line : changes.lines()) {
+        tell_({on_sheet(formula::area_text({line.first, 1, line.last, formula::max_columns})), line.property,
+               line.before, line.after});
+    }
+}
+
+void SheetDiff::tell_line_format(LineChanges& changes, std::int32_t first, std::int32_t last, StylePair pair) {
+    for (const std::size_t i : differences(pair)) {
+        changes.add(first, last, format_properties[i], before_facts_[pair.before][i], after_facts_[pair.after][i]);
+    }
+}
+
+const std::vector<std::size_t>& SheetDiff::differences(StylePair pair) {
+    const auto [entry, fresh] = known_.try_emplace(pair);
+    if (fresh) {
+        const FormatFacts& a = before_facts_[pair.before];
+        const FormatFacts& b = after_facts_[pair.after];
+        for (std::size_t i = 0; i < a.size(); ++i) {
+            if (a[i] != b[i]) entry->second.push_back(i);
+        }
+    }
+    return entry->second;
+}
+
+void SheetDiff::tell_format(const std::string& place, StylePair pair) {
+    for (const std::size_t i : differences(pair)) {
+        tell_({place, std::string(format_properties[i]), before_facts_[pair.before][i], after_facts_[pair.after][i]});
+    }
+}
+
+void SheetDiff::collect_cells() {
+    const auto& left = before_.cell_columns();
+    const auto& right = after_.cell_columns();
+    for (std::size_t c = 0; c < std::max(left.size(), right.size()); ++c) {
+        static const std::vector<host::Cell> none;
+        const auto& a = c < left.size() && left[c] ? left[c]->cells : none;
+        const auto& b = c < right.size() && right[c] ? right[c]->cells : none;
+        for (std::size_t i = 0, j = 0; i < a.size() || j < b.size();) {
+            const std::int32_t row = std::min(i < a.size() ? a[i].row : formula::max_rows + 1,
+                                              j < b.size() ? b[j].row : formula::max_rows + 1);
+            compare_cell({row, static_cast<std::int32_t>(c) + 1});
+            if (i < a.size() && a[i].row == row) ++i;
+            if (j < b.size() && b[j].row == row) ++j;
+        }
+    }
+}
+
+void SheetDiff::compare_cell(Position at) {
+    bool differs = false;
+    const StylePair pair{before_.style_at(at), after_.style_at(at)};
+    if (!differences(pair).empty()) {
+        restyled_[pair].push_back(at);
+        differs = true;
+    }
+    const auto note = [&](const char* property, std::string was, std::string is) {
+        if (was == is) return;
+        rewritten_.push_back({at, {on_sheet(formula::cell_text(at)), property, std::move(was), std::move(is)}});
+        differs = true;
+    };
+    const auto formula_of = [&](host::Sheet& sheet) {
+        const std::string text = sheet.formula_at(at);
+        return text.empty() ? text : "=" + text;
+    };
+    note("Formula", formula_of(before_), formula_of(after_));
+    note("Value", text_of(before_.content_at(at)), text_of(after_.content_at(at)));
+    if (differs) ++cells_;
+}
+
+void SheetDiff::tell_cells() {
+    std::ranges::stable_sort(rewritten_, {}, [](const auto& entry) { return entry.first; });
+    for (const auto& [at, change] : rewritten_) tell_(change);
+    if (each_cell_) {
+        std::vector<std::pair<Position, StylePair>> cells;
+        for (const auto& [pair, places] : restyled_) {
+            for (const Position at : places) cells.emplace_back(at, pair);
+        }
+        std::ranges::sort(cells, {}, [](const auto& entry) { return entry.first; });
+        for (const auto& [at, pair] : cells) tell_format(on_sheet(formula::cell_text(at)), pair);
+        return;
+    }
+    // Cells with different formats before may well have the same change after all.
+    std::map<Change, std::vector<Position>, decltype([](const Change& a, const Change& b) {
+                 return std::tie(a.property, a.before, a.after) < std::tie(b.property, b.before, b.after);
+             })>
+        by_change;
+    for (const auto& [pair, places] : restyled_) {
+        for (const std::size_t i : differences(pair)) {
+            auto& cells = by_change[{"", std::string(format_properties[i]), before_facts_[pair.before][i],
+                                     after_facts_[pair.after][i]}];
+            cells.insert(cells.end(), places.begin(), places.end());
+        }
+    }
+    std::vector<std::pair<Area, Change>> lines;
+    for (const auto& [change, cells] : by_change) {
+        for (const Area& area : rectangles(cells)) {
+            lines.emplace_back(area, change);
+            lines.back().second.place = on_sheet(formula::area_text(area));
+        }
+    }
+    std::ranges::stable_sort(lines, {}, [](const auto& line) { return line.first.top_left(); });
+    for (const auto& [area, change] : lines) tell_(change);
+}
+
+}  // namespace kestrune::cli

@@ -1,0 +1,141 @@
+#include <fmt/format.h>
+
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <exception>
+#include <new>
+
+#include "automation/AutomationError.h"
+#include "cli/CommandsCommand.h"
+#include "cli/Failure.h"
+#include "cli/Version.h"
+#include "cli/cell/CellCommand.h"
+#include "cli/diff/DiffCommand.h"
+#include "cli/run/RunCommand.h"
+#include "cli/show/ShowCommand.h"
+#include "host/xlsx/PackageError.h"
+
+namespace kestrune::cli {
+namespace {
+
+constexpr const char* about = "Formats, colours and restructures Excel models from the command line.";
+constexpr const char* examples = R"(
+Examples:
+  kestrune run model.xlsx -o out.xlsx @Inputs!C5:G20 20 21.2
+      Selects cells, steps the Currency SmartCycle, applies entry 2 of the Percent SmartCycle.
+  kestrune commands
+      Lists the 103 commands.
+  kestrune cell model.xlsx Inputs!C5 --json
+      Says everything about a cell.
+  kestrune show model.xlsx --html model.html
+      Draws the workbook as a page.
+  kestrune diff model.xlsx out.xlsx
+      Lists what changed between two workbooks.
+
+Exit status: 0 done, 1 a command or a file failed (nothing is written), 2 wrong usage.)";
+
+void add_run(CLI::App& app, RunOptions& options) {
+    CLI::App* command = app.add_subcommand("run", "Run a session of steps on a workbook");
+    command->add_option("WORKBOOK", options.workbook, "The .xlsx or .xlsm file to open")->required();
+    command->add_option("-o,--output", options.output, "Where to save the workbook");
+    command->add_flag("--in-place", options.in_place, "Save the workbook over itself");
+    command->add_option("--answer", options.answer, "Answer to every question: ok, cancel, yes, no, or ask")
+        ->capture_default_str();
+    command->add_flag("--json", options.json, "Report each step as JSON");
+    command->add_flag("--trace", options.trace, "Tell on standard error what commands skipped");
+    command->add_option("STEP", options.steps,
+                        "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, RunAutoColor a member");
+    command->footer(
+        "Steps run from left to right in one session; without steps the workbook is saved as it is.\n"
+        "Without -o and --in-place nothing is saved.");
+    command->callback([&options] { run(options); });
+}
+
+struct CellOptions {
+    std::string workbook;
+    std::vector<std::string> references;
+    bool json = false;
+};
+
+void add_cell(CLI::App& app, CellOptions& options) {
+    CLI::App* command = app.add_subcommand("cell", "Say everything about cells: value, formula, formats");
+    command->add_option("WORKBOOK", options.workbook, "The .xlsx or .xlsm file to open")->required();
+    command->add_option("REF", options.references, "Cells: Inputs!C5, B2:D4 or a defined name")->required();
+    command->add_flag("--json", options.json, "One JSON object a cell");
+    command->callback([&options] { describe_cells(options.workbook, options.references, options.json); });
+}
+
+void add_commands(CLI::App& app, bool& json) {
+    CLI::App* command = app.add_subcommand("commands", "List the 103 commands");
+    command->add_flag("--json", json, "As JSON");
+    command->callback([&json] { list_commands(json); });
+}
+
+void add_show(CLI::App& app, ShowOptions& options) {
+    CLI::App* command = app.add_subcommand("show", "Show a sheet as a person sees it");
+    command->add_option("WORKBOOK", options.workbook, "The .xlsx or .xlsm file to open")->required();
+    command->add_option("RANGE", options.range, "Cells to show; the active sheet when left out");
+    command->add_option("--html", options.html, "Write a page instead of drawing in the terminal");
+    command->add_option("--color", options.color, "Colours in the terminal: auto, always or never")
+        ->capture_default_str();
+    command->callback([&options] { show(options); });
+}
+
+void add_diff(CLI::App& app, DiffOptions& options) {
+    CLI::App* command = app.add_subcommand("diff", "List what changed between two workbooks");
+    command->add_option("A", options.before, "The workbook before")->required();
+    command->add_option("B", options.after, "The workbook after")->required();
+    command->add_flag("--json", options.json, "One JSON object a change");
+    command->callback([&options] { diff(options); });
+}
+
+// What the person typed, and what it needs while it runs.
+int run_program(int argc, char** argv) {
+    CLI::App app(about, "kestrune");
+    app.footer(examples);
+    app.set_version_flag("--version", fmt::format("kestrune {}", version));
+    app.require_subcommand(1);
+    RunOptions run_options;
+    CellOptions cell_options;
+    ShowOptions show_options;
+    DiffOptions diff_options;
+    bool commands_json = false;
+    add_run(app, run_options);
+    add_commands(app, commands_json);
+    add_cell(app, cell_options);
+    add_show(app, show_options);
+    add_diff(app, diff_options);
+    try {
+        app.parse(argc, argv);
+        return done;
+    } catch (const CLI::ParseError& error) {
+        if (error.get_exit_code() == 0) {
+            app.exit(error);  // --help, --version
+            return done;
+        }
+        fmt::print(stderr, "kestrune: {}; 'kestrune --help' tells more\n", error.what());
+        return wrong_usage;
+    }
+}
+
+}  // namespace
+}  // namespace kestrune::cli
+
+int main(int argc, char** argv) {
+    using namespace kestrune;
+    try {
+        return cli::run_program(argc, argv);
+    } catch (const cli::Failure& failure) {
+        fmt::print(stderr, "kestrune: {}\n", failure.what());
+        return failure.status();
+    } catch (const host::PackageError& error) {
+        fmt::print(stderr, "kestrune: {}\n", error.what());
+    } catch (const automation::AutomationError& error) {
+        fmt::print(stderr, "kestrune: {}\n", error.what());
+    } catch (const std::bad_alloc&) {
+        fmt::print(stderr, "kestrune: out of memory\n");
+    } catch (const std::exception& error) {
+        fmt::print(stderr, "kestrune: internal error: {}\n", error.what());
+    }
+    return cli::failed;
+}

@@ -1,0 +1,188 @@
+#include "cli/run/RunCommand.h"
+
+#include <fmt/format.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+#include <nlohmann/json.hpp>
+
+#include "automation/Conversion.h"
+#include "automation/Text.h"
+#include "brvblib/CommandTexts.h"
+#include "cli/AddIn.h"
+#include "cli/Failure.h"
+#include "cli/OpenWorkbook.h"
+#include "cli/run/Select.h"
+#include "cli/run/Step.h"
+#include "forms/ConsolePresenter.h"
+#include "forms/ScriptedPresenter.h"
+
+namespace kestrune::cli {
+namespace {
+
+using nlohmann::ordered_json;
+
+struct ShownMessage {
+    forms::Message message;
+    forms::MsgBoxResult answer;
+};
+
+std::string lower_case(std::string_view text) {
+    std::string out(text);
+    for (char& c : out) c = automation::lower(c);
+    return out;
+}
+
+// Who answers the commands' questions.
+std::unique_ptr<forms::Presenter> presenter_for(const std::string& answer) {
+    if (answer == "ask") return std::make_unique<forms::ConsolePresenter>(std::cin, std::cerr);
+    const auto policy = forms::answer_policy(answer);
+    if (!policy) throw UsageError(fmt::format("--answer {}: is not ok, cancel, yes, no or ask", answer));
+    return std::make_unique<forms::ScriptedPresenter>(*policy);
+}
+
+// The ending that a file's content asks for. Excel opens no file whose ending says something else.
+std::string_view ending_of(host::PackageKind kind) {
+    switch (kind) {
+        case host::PackageKind::Workbook:
+            return ".xlsx";
+        case host::PackageKind::MacroWorkbook:
+            return ".xlsm";
+        case host::PackageKind::Template:
+            return ".xltx";
+        case host::PackageKind::MacroTemplate:
+            return ".xltm";
+        case host::PackageKind::AddIn:
+            return ".xlam";
+    }
+    return ".xlsx";
+}
+
+void check_output_name(const OpenWorkbook& book, const std::string& input, const std::string& output) {
+    const std::string_view wanted = ending_of(book.kind());
+    const auto ending = [](const std::string& path) {
+        return lower_case(std::filesystem::path(path).extension().string());
+    };
+    // A workbook that came under another name may leave under it.
+    if (ending(output) != wanted && ending(output) != ending(input)) {
+        throw UsageError(fmt::format("{}: must end in {}, since that is what the workbook is", output, wanted));
+    }
+}
+
+class Session {
+  public:
+    explicit Session(const RunOptions& options) : options_(options), presenter_(presenter_for(options.answer)) {
+        for (const std::string& text : options.steps) steps_.push_back(parse_step(text));
+        presenter_->listen([this](const forms::Message& message, forms::MsgBoxResult answer) {
+            messages_.push_back({message, answer});
+        });
+        trace_.listen([this](std::string_view line) { skipped(line); });
+    }
+
+    void run() {
+        OpenWorkbook book(options_.workbook);
+        if (options_.output) check_output_name(book, options_.workbook, *options_.output);
+        if (!steps_.empty()) {
+            AddIn add_in(book.application(), *presenter_, trace_);
+            ordered_json report = ordered_json::array();
+            const std::int32_t looked_at = book.model().active_sheet;
+            for (std::size_t i = 0; i < steps_.size(); ++i) {
+                ordered_json entry = run_step(book, add_in, steps_[i], options_.steps[i]);
+                if (options_.json) report.push_back(std::move(entry));
+            }
+            if (options_.json) fmt::print("{}\n", report.dump(1));
+            // A selection says where to work; only a command moves a reader to another sheet.
+            if (!moved_) book.model().active_sheet = looked_at;
+        } else if (options_.json) {
+            fmt::print("[]\n");
+        }
+        if (options_.in_place) {
+            book.save(options_.workbook);
+        } else if (options_.output) {
+            book.save(*options_.output);
+        } else if (!steps_.empty()) {
+            fmt::print(stderr, "nothing saved: -o FILE or --in-place saves the workbook\n");
+        }
+    }
+
+  private:
+    ordered_json run_step(OpenWorkbook& book, AddIn& add_in, const Step& step, const std::string& text) {
+        messages_.clear();
+        refusals_.clear();
+        const std::int32_t looked_at = book.model().active_sheet;
+        const std::int64_t before = book.session().calls();
+        bool ran = true;
+        std::string what;
+        if (const auto* select = std::get_if<SelectStep>(&step)) {
+            select_cells(book, select->target);
+        } else if (const auto* request = std::get_if<RequestStep>(&step)) {
+            what = brvblib::command_texts[static_cast<std::size_t>(request->command->number)].name;
+            if (!request->command->body) throw Failure(fmt::format("{}: {} is not available yet", text, what));
+            ran = automation::to_boolean(automation::call(add_in.commands(), "RunMacro", {request->request}));
+            if (!ran) what += ": a command may not run now";
+        } else if (const auto* member = std::get_if<MemberStep>(&step)) {
+            automation::call(add_in.commands(), member->member);
+            what = member->member;
+        }
+        const std::int64_t calls = book.session().calls() - before;
+        if (std::holds_alternative<SelectStep>(step)) {
+            what = fmt::format("selected {}", selection_text(book));
+        } else if (book.model().active_sheet != looked_at) {
+            moved_ = true;
+        }
+        tell_refusals(text);
+        if (options_.json) return describe(text, ran, calls);
+        tell(text, what, calls);
+        return {};
+    }
+
+    void skipped(std::string_view line) {
+        if (options_.trace) fmt::print(stderr, "skipped: {}\n", line);
+        refusals_.emplace_back(line);
+    }
+
+    // Commands pass over what the host refuses; a person should know all the same.
+    void tell_refusals(const std::string& text) const {
+        if (options_.trace || refusals_.empty()) return;
+        const std::size_t more = refusals_.size() - 1;
+        fmt::print(stderr, "{}: refused: {}{}\n", text, refusals_.front(),
+                   more == 0 ? "" : fmt::format(" (and {} more; --trace tells all)", more));
+    }
+
+    void tell(const std::string& text, const std::string& what, std::int64_t calls) const {
+        fmt::print("{:<12} {}  ({} call{})\n", text, what, calls, calls == 1 ? "" : "s");
+        for (const ShownMessage& shown : messages_) {
+            fmt::print("             {}: {} [{}]\n", shown.message.caption, shown.message.text,
+                       forms::choice_name(shown.answer));
+        }
+    }
+
+    [[nodiscard]] ordered_json describe(const std::string& text, bool ran, std::int64_t calls) const {
+        ordered_json shown = ordered_json::array();
+        for (const auto& [message, answer] : messages_) {
+            shown.push_back({{"text", message.text},
+                             {"caption", message.caption},
+                             {"buttons", message.buttons},
+                             {"answer", lower_case(forms::choice_name(answer))}});
+        }
+        return {{"step", text}, {"ran", ran}, {"messages", shown}, {"calls", calls}};
+    }
+
+    const RunOptions& options_;
+    std::unique_ptr<forms::Presenter> presenter_;
+    automation::Trace trace_;
+    std::vector<Step> steps_;
+    std::vector<ShownMessage> messages_;  // of the step that runs
+    std::vector<std::string> refusals_;   // of the step that runs
+    bool moved_ = false;                  // a command went to another sheet
+};
+
+}  // namespace
+
+void run(const RunOptions& options) {
+    if (options.output && options.in_place) throw UsageError("-o and --in-place do not go together");
+    Session(options).run();
+}
+
+}  // namespace kestrune::cli

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kestrune::cli {
+
+struct RunOptions {
+    std::string workbook;
+    std::optional<std::string> output;
+    bool in_place = false;
+    std::string answer = "ok";  // ok, cancel, yes, no, ask
+    bool json = false;
+    bool trace = false;
+    std::vector<std::string> steps;
+};
+
+// `kestrune run`: a session of steps on one workbook, saved at its end. Nothing is written when a step fails.
+void run(const RunOptions& options);
+
+}  // namespace kestrune::cli

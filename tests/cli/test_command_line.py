@@ -1,0 +1,266 @@
+"""The command line as its user meets it: the built program, real files, what it prints and how it exits."""
+
+import json
+import os
+import pathlib
+import shutil
+import subprocess
+import tempfile
+import unittest
+import zipfile
+
+import openpyxl
+
+KESTRUNE = os.environ["KESTRUNE"]
+TOP = pathlib.Path(__file__).resolve().parents[2]
+EXAMPLE = TOP / "examples" / "three-statement-model.xlsx"
+
+
+def kestrune(*arguments, text_in=None):
+    return subprocess.run([KESTRUNE, *map(str, arguments)], input=text_in, capture_output=True, text=True, timeout=120)
+
+
+class CommandLineTest(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+        self.book = self.folder / "book.xlsx"
+        book = openpyxl.Workbook()
+        model = book.active
+        model.title = "Model"
+        for row in range(1, 6):
+            for column in range(1, 5):
+                model.cell(row, column, row * 10 + column)
+        model["F1"] = "=SUM(A1:A5)"
+        book.create_sheet("It's hidden").sheet_state = "hidden"
+        name = openpyxl.workbook.defined_name.DefinedName("Inputs", attr_text="Model!$B$2:$C$3")
+        names = book.defined_names
+        names.append(name) if hasattr(names, "append") else names.add(name)  # before and from openpyxl 3.1 on
+        book.save(self.book)
+
+    def run_ok(self, *arguments, **more):
+        result = kestrune(*arguments, **more)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return result
+
+    def cells(self, path, *references):
+        return json.loads(self.run_ok("cell", path, *references, "--json").stdout)
+
+
+class Running(CommandLineTest):
+    def test_a_session_formats_what_is_selected_and_nothing_else(self):
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", self.book, "-o", out, "@Inputs", "20", "20", "@Model!D:D", "21.2", "@A5:B5,D1", "29.1")
+        sheet = openpyxl.load_workbook(out)["Model"]
+        self.assertEqual(sheet["B2"].number_format, "[$$-409]#,##0.0_);([$$-409]#,##0.0)")
+        self.assertEqual(sheet["A1"].number_format, "General")
+        self.assertEqual(sheet["D3"].number_format, "0.0%_);(0.0%)")
+        self.assertEqual(sheet["D1"].border.left.style, "thin")
+        self.assertEqual((sheet["A5"].border.left.style, sheet["B5"].border.right.style), ("thin", "thin"))
+        self.assertEqual(sheet["F1"].value, "=SUM(A1:A5)")
+        changed = {change["place"] for change in json.loads(self.run_ok("diff", self.book, out, "--json").stdout)}
+        expected = {f"Model!{c}{r}" for c in "BC" for r in (2, 3)} | {f"Model!D{r}" for r in range(1, 6)}
+        self.assertEqual(changed, expected | {"Model!A5", "Model!B5", "Model!D:D"})
+
+    def test_reports_each_step_as_json(self):
+        steps = json.loads(self.run_ok("run", self.book, "--json", "@Model!A1:D5", "20", "20.3").stdout)
+        self.assertEqual([step["step"] for step in steps], ["@Model!A1:D5", "20", "20.3"])
+        for step in steps:
+            self.assertEqual(set(step), {"step", "ran", "messages", "calls"})
+            self.assertTrue(step["ran"])
+        self.assertLess(steps[1]["calls"], 40, "20 cells cost no more calls than one")
+
+    def test_without_steps_the_file_comes_out_as_it_went_in(self):
+        out = self.folder / "out.xlsx"
+        for source in (self.book, EXAMPLE):
+            self.run_ok("run", source, "-o", out)
+            self.assertEqual(out.read_bytes(), source.read_bytes())
+
+    def test_saves_in_place_or_not_at_all(self):
+        before = self.book.read_bytes()
+        result = self.run_ok("run", self.book, "@Model!A1", "20")
+        self.assertIn("nothing saved", result.stderr)
+        self.assertEqual(self.book.read_bytes(), before)
+        self.run_ok("run", self.book, "--in-place", "@Model!A1", "20")
+        self.assertEqual(openpyxl.load_workbook(self.book)["Model"]["A1"].number_format,
+                         "[$$-409]#,##0_);([$$-409]#,##0)")
+        self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["book.xlsx"])
+
+    def test_window_commands_change_the_view(self):
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", self.book, "-o", out, "87", "87", "88", "98")
+        view = openpyxl.load_workbook(out)["Model"].sheet_view
+        self.assertEqual((view.zoomScale, view.showGridLines), (105, False))
+
+    def test_selecting_on_another_sheet_leaves_the_active_sheet_alone(self):
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", EXAMPLE, "-o", out, "@Debt!C8:J10", "20")
+        with zipfile.ZipFile(EXAMPLE) as before, zipfile.ZipFile(out) as after:
+            changed = [name for name in before.namelist() if before.read(name) != after.read(name)]
+        self.assertEqual(len(changed), 2, changed)
+        self.assertIn("xl/styles.xml", changed)
+
+    def test_tells_what_a_protected_sheet_refused(self):
+        book = openpyxl.load_workbook(self.book)
+        book["Model"].protection.sheet = True
+        book["Model"]["B2"].protection = openpyxl.styles.Protection(locked=False)
+        locked = self.folder / "locked.xlsx"
+        book.save(locked)
+        out = self.folder / "out.xlsx"
+        result = self.run_ok("run", locked, "-o", out, "@A1:B2", "20", "@B2", "20")
+        self.assertIn("the sheet 'Model' is protected", result.stderr)
+        sheet = openpyxl.load_workbook(out)["Model"]
+        self.assertEqual((sheet["A1"].number_format, sheet["B2"].number_format),
+                         ("General", "[$$-409]#,##0_);([$$-409]#,##0)"))
+
+    def test_options_end_at_two_dashes(self):
+        result = kestrune("run", self.book, "--", "-1")
+        self.assertEqual(result.returncode, 2)
+        self.assertIn("-1", result.stderr)
+
+
+class Refusing(CommandLineTest):
+    def refused(self, status, needle, *arguments):
+        result = kestrune(*arguments)
+        self.assertEqual(result.returncode, status, f"{arguments}: {result.stdout}{result.stderr}")
+        lines = result.stderr.strip().splitlines()
+        self.assertEqual(len(lines), 1, f"{arguments}: {result.stderr}")
+        self.assertIn(needle, lines[0])
+
+    def test_wrong_usage(self):
+        for needle, *arguments in [
+            ("subcommand", ),
+            ("WORKBOOK", "run"),
+            ("--nonsense", "run", self.book, "--nonsense"),
+            ("103", "run", self.book, "103"),
+            ("-1", "run", self.book, "--", "-1"),
+            ("Frobnicate", "run", self.book, "Frobnicate"),
+            ("twenty", "run", self.book, "20", "twenty"),
+            ("maybe", "run", self.book, "--answer", "maybe", "20"),
+            ("--in-place", "run", self.book, "--in-place", "-o", "x.xlsx"),
+            (".xlsx", "run", self.book, "-o", self.folder / "out.xlsm", "20"),
+        ]:
+            self.refused(2, needle, *arguments)
+
+    def test_what_does_not_exist(self):
+        out = self.folder / "out.xlsx"
+        for needle, *steps in [
+            ("there is no sheet 'Nowhere'", "@Nowhere!A1"),
+            ("hidden", "@'It''s hidden'!A1"),
+            ("NoSuchName", "@NoSuchName"),
+            ("ZZZ9", "@Model!ZZZ9"),
+            ("A1048577", "@A1048577"),
+            ("not available yet", "@A1", "0"),
+        ]:
+            self.refused(1, needle, "run", self.book, "-o", out, *steps)
+            self.assertFalse(out.exists(), steps)
+        self.refused(1, "missing.xlsx", "run", self.folder / "missing.xlsx", "20")
+        self.refused(1, "No such file", "run", self.book, "-o", self.folder / "nowhere" / "out.xlsx", "@A1", "20")
+
+    def test_files_that_are_no_workbooks(self):
+        with zipfile.ZipFile(self.book) as package:
+            parts = {name: package.read(name) for name in package.namelist()}
+
+        def variant(name, changes):
+            path = self.folder / name
+            with zipfile.ZipFile(path, "w", zipfile.ZIP_DEFLATED) as package:
+                for part, content in {**parts, **changes}.items():
+                    if content is not None:
+                        package.writestr(part, content)
+            return path
+
+        def plain(name, content):
+            path = self.folder / name
+            path.write_bytes(content)
+            return path
+
+        def compound(stream):  # a header, and a directory with one stream
+            name = stream.encode("utf-16-le")
+            header = bytearray(512)
+            header[:8] = bytes.fromhex("d0cf11e0a1b11ae1")
+            header[24:34] = bytes.fromhex("3e000300feff09000600")
+            entry = bytearray(512)
+            entry[: len(name)] = name
+            entry[64:67] = bytes([len(name) + 2, 0, 2])
+            return bytes(header + entry)
+
+        sheet = "xl/worksheets/sheet1.xml"
+        whole = self.book.read_bytes()
+        cases = [
+            ("zip", plain("text.xlsx", b"Name,Amount\n")),
+            ("empty", plain("empty.xlsx", b"")),
+            ("cut short", plain("half.xlsx", whole[: len(whole) // 2])),
+            (".xls", plain("old.xlsx", compound("Workbook"))),
+            ("encrypted", plain("secret.xlsx", compound("EncryptedPackage"))),
+            ("xl/workbook.xml", variant("gone.xlsx", {"xl/workbook.xml": None})),
+            (sheet + ", line 3", variant("broken.xlsx", {sheet: parts[sheet].replace(b"<sheetData>", b"\n\n<sheetData><row>")})),
+            ("ZZZ9", variant("outside.xlsx", {sheet: parts[sheet].replace(b'r="A1"', b'r="ZZZ9"')})),
+            ("document type", variant("entity.xlsx", {sheet: b'<!DOCTYPE x [<!ENTITY e SYSTEM "file:///etc/passwd">]>' + parts[sheet]})),
+        ]
+        for needle, path in cases:
+            before = path.read_bytes()
+            self.refused(1, needle, "run", path, "--in-place", "@A1:B2", "20")
+            self.refused(1, path.name, "run", path, "--in-place", "@A1:B2", "20")
+            self.assertEqual(path.read_bytes(), before)
+
+    def test_a_target_that_cannot_be_written_leaves_everything_as_it_was(self):
+        target = self.folder / "folder.xlsx"
+        target.mkdir()
+        self.refused(1, "folder.xlsx", "run", self.book, "-o", target, "@A1", "20")
+        self.assertEqual(sorted(path.name for path in self.folder.iterdir()), ["book.xlsx", "folder.xlsx"])
+
+
+class Telling(CommandLineTest):
+    def test_lists_all_commands(self):
+        commands = json.loads(self.run_ok("commands", "--json").stdout)
+        self.assertEqual([command["number"] for command in commands], list(range(103)))
+        self.assertEqual(len({command["name"] for command in commands}), 103)
+        for command in commands:
+            self.assertTrue(command["description"].endswith("."), command)
+        self.assertEqual([c["number"] for c in commands if c["parameter"]], [*range(19, 51), 58, 59, 60, 97, 99])
+        self.assertIn("Currency SmartCycle", self.run_ok("commands").stdout)
+
+    def test_describes_cells_in_the_object_models_terms(self):
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", self.book, "-o", out, "@B2", "20", "30.4", "29.3")
+        (cell,) = self.cells(out, "Model!B2")
+        self.assertEqual(cell["Address"], "Model!$B$2")
+        self.assertEqual((cell["Value"], cell["Formula"], cell["Text"]), (22, "22", "$22 "))
+        self.assertEqual(cell["Interior"], {"Color": 65535, "ColorIndex": 6})
+        self.assertEqual(cell["Borders"]["xlEdgeTop"]["LineStyle"], -4119)
+        self.assertEqual(cell["Font"]["Underline"], -4142)
+        (formula,) = self.cells(out, "F1")
+        self.assertEqual(formula["Formula"], "=SUM(A1:A5)")
+        self.assertEqual(len(self.cells(out, "A1:B2", "D4")), 5)
+        self.assertIn("Model!$B$2 Interior.Color 65535", self.run_ok("cell", out, "Model!B2").stdout)
+
+    def test_shows_a_sheet_in_the_terminal_and_as_a_page(self):
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", self.book, "-o", out, "@A1:D1", "20", "31.3", "@A2:A3", "26")
+        plain = self.run_ok("show", out, "Model!A1:D2").stdout
+        self.assertIn("$11", plain)
+        self.assertNotIn("\x1b[", plain)
+        self.assertIn("\x1b[", self.run_ok("show", out, "--color", "always").stdout)
+        page = self.folder / "page.html"
+        self.run_ok("show", out, "--html", page)
+        html = page.read_text()
+        self.assertIn("$11", html)
+        self.assertNotIn("It&#39;s hidden", html)
+        self.assertIn("<label", html)
+
+    def test_diff_tells_one_line_for_like_changes(self):
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", self.book, "-o", out, "@Model!A1:D5", "21")
+        lines = self.run_ok("diff", self.book, out).stdout.splitlines()
+        self.assertEqual(lines, ["Model!A1:D5 NumberFormat: General -> 0%_);(0%)"])
+        self.assertEqual(self.run_ok("diff", out, out).stdout, "")
+
+    def test_help_helps(self):
+        self.assertIn("Examples:", self.run_ok("--help").stdout)
+        self.assertIn("--in-place", self.run_ok("run", "--help").stdout)
+        self.assertRegex(self.run_ok("--version").stdout, r"^kestrune \d+\.\d+\.\d+$")
+
+
+if __name__ == "__main__":
+    unittest.main()
