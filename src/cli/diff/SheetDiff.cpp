@@ -43,6 +43,18 @@ std::string areas_text(const std::vector<Area>& areas) {
     return out;
 }
 
+// The edge that a format property is about, as a bit of Edge; 0 for other properties.
+unsigned edge_of(std::size_t property) {
+    static constexpr std::pair<std::string_view, host::Edge> edges[] = {{"Borders(xlEdgeLeft)", host::Edge::Left},
+                                                                        {"Borders(xlEdgeTop)", host::Edge::Top},
+                                                                        {"Borders(xlEdgeRight)", host::Edge::Right},
+                                                                        {"Borders(xlEdgeBottom)", host::Edge::Bottom}};
+    for (const auto& [name, edge] : edges) {
+        if (format_properties[property] == name) return static_cast<unsigned>(edge);
+    }
+    return 0;
+}
+
 std::string rules_text(const std::vector<host::ConditionalFormat>& formats) {
     std::vector<std::string> lines;
     for (const host::ConditionalFormat& format : formats) {
@@ -183,7 +195,7 @@ const std::vector<std::size_t>& SheetDiff::differences(StylePair pair) {
         const FormatFacts& a = before_facts_[pair.before];
         const FormatFacts& b = after_facts_[pair.after];
         for (std::size_t i = 0; i < a.size(); ++i) {
-            if (a[i] != b[i]) entry->second.push_back(i);
+            if (a[i] != b[i] && !(pair.taken_over & edge_of(i))) entry->second.push_back(i);
         }
     }
     return entry->second;
@@ -212,9 +224,29 @@ void SheetDiff::collect_cells() {
     }
 }
 
+// The line between two cells is one, whichever of them it is stored with: where a cell's line is now drawn by its
+// neighbour, the neighbour's change tells of it.
+unsigned SheetDiff::lines_taken_over(Position at, StylePair pair) {
+    unsigned edges = 0;
+    for (const std::size_t i : differences(pair)) {
+        const unsigned edge = edge_of(i);
+        if (edge == 0 || after_facts_[pair.after][i] != "none") continue;
+        Position beside = at;
+        if (edge == static_cast<unsigned>(host::Edge::Left)) --beside.column;
+        if (edge == static_cast<unsigned>(host::Edge::Right)) ++beside.column;
+        if (edge == static_cast<unsigned>(host::Edge::Top)) --beside.row;
+        if (edge == static_cast<unsigned>(host::Edge::Bottom)) ++beside.row;
+        if (!beside.on_sheet()) continue;
+        const host::Border& border = after_.workbook().styles.border_of(after_.style_at(beside));
+        if (border.line(host::facing(static_cast<host::Edge>(edge))).style != host::LineStyle::None) edges |= edge;
+    }
+    return edges;
+}
+
 void SheetDiff::compare_cell(Position at) {
     bool differs = false;
-    const StylePair pair{before_.style_at(at), after_.style_at(at)};
+    StylePair pair{before_.style_at(at), after_.style_at(at)};
+    pair.taken_over = lines_taken_over(at, pair);
     if (!differences(pair).empty()) {
         restyled_[pair].push_back(at);
         differs = true;

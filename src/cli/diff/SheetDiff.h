@@ -25,7 +25,8 @@ class SheetDiff {
     void tell_cells();
 
     struct StylePair {
-        host::StyleId before, after;
+        host::StyleId before = 0, after = 0;
+        unsigned taken_over = 0;  // bits of Edge: lines that were the cell's and are now its neighbour's
         auto operator<=>(const StylePair&) const = default;
     };
     // The places in format_properties where two formats differ.
@@ -33,6 +34,7 @@ class SheetDiff {
     void tell_format(const std::string& place, StylePair pair);
     void tell_line_format(LineChanges& changes, std::int32_t first, std::int32_t last, StylePair pair);
     void compare_cell(formula::Position at);
+    [[nodiscard]] unsigned lines_taken_over(formula::Position at, StylePair pair);
     [[nodiscard]] std::string on_sheet(const std::string& reference) const;
     void tell_if_changed(const std::string& place, std::string_view property, std::string before, std::string after);
 

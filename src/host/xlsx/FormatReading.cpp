@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "host/number_format/FormatSpelling.h"
 #include "host/xlsx/ColorXml.h"
 #include "host/xlsx/FormatNames.h"
 #include "host/xlsx/FormatXml.h"
@@ -180,7 +181,7 @@ DifferentialFormat read_differential(const XmlElement& dxf) {
         } else if (child.local() == "border") {
             format.border = read_border(child);
         } else if (child.local() == "numFmt") {
-            format.number_format = child.value("formatCode");
+            format.number_format = object_model_spelling(child.value("formatCode"));
         }
     }
     return format;

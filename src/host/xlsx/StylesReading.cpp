@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "host/number_format/FormatSpelling.h"
 #include "host/xlsx/ColorXml.h"
 #include "host/xlsx/FormatXml.h"
 #include "host/xlsx/StylesPart.h"
@@ -25,7 +26,8 @@ void read_number_formats(const XmlElement& list, StyleTable& styles, StylesLayou
     each(list, "numFmt", [&](const XmlElement& element) {
         const auto number = element.integer("numFmtId", -1);
         if (number < 0 || number > 0x7FFFFFFF) return;
-        styles.load_number_format(static_cast<std::uint32_t>(number), element.value("formatCode"));
+        styles.load_number_format(static_cast<std::uint32_t>(number),
+                                  object_model_spelling(element.value("formatCode")));
         layout.number_formats.push_back(static_cast<std::uint32_t>(number));
     });
     std::sort(layout.number_formats.begin(), layout.number_formats.end());
