@@ -232,6 +232,7 @@ class Telling(CommandLineTest):
         self.assertEqual(cell["Font"]["Underline"], -4142)
         (formula,) = self.cells(out, "F1")
         self.assertEqual(formula["Formula"], "=SUM(A1:A5)")
+        self.assertIn('"Size":11,"Bold":false', self.run_ok("cell", out, "F1", "--json").stdout)
         self.assertEqual(len(self.cells(out, "A1:B2", "D4")), 5)
         self.assertIn("Model!$B$2 Interior.Color 65535", self.run_ok("cell", out, "Model!B2").stdout)
 

@@ -2,6 +2,9 @@
 
 #include <fmt/format.h>
 
+#include <cmath>
+#include <cstdint>
+
 #include "excel/Constants.h"
 #include "excel/FormatCondition.h"
 #include "excel/Worksheet.h"
@@ -13,6 +16,13 @@ namespace {
 
 using automation::Value;
 using nlohmann::ordered_json;
+
+// Whole numbers without a fraction: 11, not 11.0.
+ordered_json number(double value) {
+    constexpr double exact = 9007199254740992;  // 2^53
+    if (std::trunc(value) == value && std::abs(value) < exact) return static_cast<std::int64_t>(value);
+    return value;
+}
 
 // A reading that fails leaves null, as for a property that the cell does not have.
 template <class Reading>
@@ -66,9 +76,9 @@ ordered_json to_json(const Value& value) {
         case Kind::Integer:
             return *value.if_is<std::int32_t>();
         case Kind::Double:
-            return *value.if_is<double>();
+            return number(*value.if_is<double>());
         case Kind::Date:
-            return value.if_is<automation::Date>()->serial;
+            return number(value.if_is<automation::Date>()->serial);
         case Kind::String:
             return *value.if_is<std::string>();
         case Kind::Error:
