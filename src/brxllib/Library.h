@@ -6,6 +6,7 @@
 #include "automation/Object.h"
 #include "automation/Text.h"
 #include "automation/Trace.h"
+#include "brxllib/Surroundings.h"
 #include "excel/Application.h"
 
 namespace kestrune::brxllib {
@@ -21,6 +22,7 @@ struct Library {
     const automation::Trace& trace;  // outlives the library
     excel::Application application;  // Nothing until a client hands it over
     std::map<std::string, Client, automation::TextLess> clients;
+    Surroundings around;
 };
 
 }  // namespace kestrune::brxllib

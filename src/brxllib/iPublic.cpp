@@ -2,8 +2,13 @@
 
 #include <utility>
 
+#include "brxllib/iConst.h"
+#include "brxllib/iDisplay.h"
+#include "brxllib/iFormula.h"
 #include "brxllib/iProduct.h"
+#include "brxllib/iRange.h"
 #include "brxllib/iWorkbook.h"
+#include "brxllib/iWorksheet.h"
 
 namespace kestrune::brxllib {
 
@@ -12,9 +17,10 @@ using automation::method;
 using automation::read_only;
 
 iPublic::iPublic(std::shared_ptr<Library> library)
-    : library_(std::move(library)),
-      product_(std::make_shared<iProduct>(library_)),
-      workbook_(std::make_shared<iWorkbook>(library_)) {}
+    : library_(std::move(library)), objects_{std::make_shared<iConst>(),         std::make_shared<iDisplay>(library_),
+                                             std::make_shared<iFormula>(),       std::make_shared<iProduct>(library_),
+                                             std::make_shared<iRange>(library_), std::make_shared<iWorkbook>(library_),
+                                             std::make_shared<iWorksheet>()} {}
 
 void iPublic::set_application(const automation::ObjectRef& application) {
     library_->application = excel::Application(application);
@@ -27,10 +33,13 @@ bool iPublic::unregister_client(const std::string& client_name) {
 }
 
 const MemberTable& iPublic::members() {
+    using P = iPublic;
     static constexpr auto rows = automation::member_rows(
-        method<&iPublic::set_application>("SetApplication", 1, "Application"),
-        method<&iPublic::unregister_client>("UnregisterClient", 2, "ClientName"),
-        read_only<&iPublic::product>("iProduct", 9), read_only<&iPublic::workbook>("iWorkbook", 12));
+        method<&P::set_application>("SetApplication", 1, "Application"),
+        method<&P::unregister_client>("UnregisterClient", 2, "ClientName"), read_only<&P::object<Const>>("iConst", 4),
+        read_only<&P::object<Display>>("iDisplay", 6), read_only<&P::object<Formula>>("iFormula", 7),
+        read_only<&P::object<Product>>("iProduct", 9), read_only<&P::object<Range>>("iRange", 10),
+        read_only<&P::object<Workbook>>("iWorkbook", 12), read_only<&P::object<Worksheet>>("iWorksheet", 13));
     static constexpr MemberTable table("iPublic", rows);
     return table;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <memory>
 #include <string>
 
@@ -15,17 +16,20 @@ class iPublic : public automation::Served<iPublic> {
     static const automation::MemberTable& members();
 
   private:
+    enum Part : std::size_t { Const, Display, Formula, Product, Range, Workbook, Worksheet, parts };
+
     // The Excel application that the library works in.
     void set_application(const automation::ObjectRef& application);
     // Whether the client was registered. With its last client the library lets go of the application.
     bool unregister_client(const std::string& client_name);
 
-    [[nodiscard]] automation::ObjectRef product() const { return product_; }
-    [[nodiscard]] automation::ObjectRef workbook() const { return workbook_; }
+    template <Part part>
+    [[nodiscard]] automation::ObjectRef object() const {
+        return objects_[part];
+    }
 
     std::shared_ptr<Library> library_;
-    automation::ObjectRef product_;
-    automation::ObjectRef workbook_;
+    std::array<automation::ObjectRef, parts> objects_;
 };
 
 }  // namespace kestrune::brxllib

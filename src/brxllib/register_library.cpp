@@ -7,9 +7,9 @@
 
 namespace kestrune::brxllib {
 
-void register_library(const automation::Trace& trace) {
-    automation::register_class("BRXLLib.iPublic", [&trace] {
-        return std::make_shared<iPublic>(std::make_shared<Library>(Library{trace, {}, {}}));
+void register_library(const automation::Trace& trace, const Surroundings& around) {
+    automation::register_class("BRXLLib.iPublic", [&trace, around] {
+        return std::make_shared<iPublic>(std::make_shared<Library>(Library{trace, {}, {}, around}));
     });
 }
 

@@ -10,7 +10,7 @@ namespace kestrune::cli {
 
 AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace) {
     brvblib::register_library(trace);
-    brxllib::register_library(trace);
+    brxllib::register_library(trace, {.presenter = &presenter});
     core::register_add_in(presenter, trace);
     public_ = automation::CreateObject("KestruneXL.iPublic");
     // The workbook that stands for the companion add-in is the one being worked on: it has no other here.

@@ -21,6 +21,9 @@ class Application : public Facade<Application> {
         {"Calculation", Access::get_put},
         {"Goto", Access::method, "Reference Scroll"},
         {"Height", Access::get_put},
+        {"Intersect", Access::method,
+         "Arg1! Arg2! Arg3 Arg4 Arg5 Arg6 Arg7 Arg8 Arg9 Arg10 Arg11 Arg12 Arg13 Arg14 Arg15 Arg16 Arg17 Arg18 Arg19 "
+         "Arg20 Arg21 Arg22 Arg23 Arg24 Arg25 Arg26 Arg27 Arg28 Arg29 Arg30"},
         {"Left", Access::get_put},
         {"Name", Access::get},
         {"Ready", Access::get},
@@ -46,6 +49,10 @@ class Application : public Facade<Application> {
     [[nodiscard]] std::int32_t Calculation() const { return get<std::int32_t>("Calculation"); }  // XlCalculation
     void Calculation(std::int32_t mode) const { put("Calculation", mode); }
     void Goto(const Range& reference) const { call("Goto", reference.object()); }
+    // The cells that two ranges of one sheet share; Nothing when they share none.
+    [[nodiscard]] Range Intersect(const Range& one, const Range& other) const {
+        return call<Range>("Intersect", one.object(), other.object());
+    }
     [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
     // Runs a macro of an open workbook ("mPublic.Init").
     template <class... A>

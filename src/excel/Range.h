@@ -47,6 +47,7 @@ class Range : public Facade<Range> {
         {"OutlineLevel", Access::get_put},
         {"Parent", Access::get},
         {"PrefixCharacter", Access::get},
+        {"Resize", Access::get, "RowSize ColumnSize"},
         {"Row", Access::get},
         {"RowHeight", Access::get_put},
         {"Rows", Access::get},
@@ -113,6 +114,10 @@ class Range : public Facade<Range> {
     void OutlineLevel(excel::Value value) const { put("OutlineLevel", std::move(value)); }
     [[nodiscard]] excel::Worksheet Parent() const;
     [[nodiscard]] excel::Value PrefixCharacter() const { return get("PrefixCharacter"); }
+    // As many rows and columns, from the same top-left cell.
+    [[nodiscard]] Range Resize(std::int32_t rows, std::int32_t columns) const {
+        return get<Range>("Resize", rows, columns);
+    }
     [[nodiscard]] std::int32_t Row() const { return get<std::int32_t>("Row"); }  // from 1
     [[nodiscard]] excel::Value RowHeight() const { return get("RowHeight"); }    // points
     void RowHeight(excel::Value value) const { put("RowHeight", std::move(value)); }

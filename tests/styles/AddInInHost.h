@@ -27,7 +27,7 @@ struct AddInInHost : testing::Test {
         workbook = &session.open(std::move(model));
         application = excel::Application(host::make_application(session));
         brvblib::register_library(trace);
-        brxllib::register_library(trace);
+        brxllib::register_library(trace, {.presenter = &presenter});
         core::register_add_in(presenter, trace);
         start();
     }

@@ -4,6 +4,8 @@
 
 namespace kestrune::core {
 
+using automation::ObjectRef;
+
 void diBRXLLib::set_application(const automation::ObjectRef& application) const {
     automation::call(automation::to_required_object(iPublic()), "SetApplication", {application});
 }
@@ -12,6 +14,53 @@ bool diBRXLLib::may_run_command() const { return automation::to_boolean(call(Wor
 
 std::int32_t diBRXLLib::nearest_color_index(std::int32_t color, const automation::ObjectRef& workbook) const {
     return automation::to_integer(call(Workbook, "NearestColorIndex", {color, workbook}));
+}
+
+std::int32_t diBRXLLib::content_kind(const ObjectRef& cell) const {
+    return automation::to_integer(call(Range, "ContentKind", {cell}));
+}
+
+std::vector<std::int32_t> diBRXLLib::content_kinds(const ObjectRef& range) const {
+    const automation::Value answer = call(Range, "ContentKind", {range});
+    const automation::Array* kinds = answer.array();
+    if (!kinds) return {automation::to_integer(answer)};
+    std::vector<std::int32_t> list;
+    list.reserve(kinds->elements().size());
+    for (const automation::Value& kind : kinds->elements()) list.push_back(automation::to_integer(kind));
+    return list;
+}
+
+ObjectRef diBRXLLib::in_use(const ObjectRef& range) const {
+    return automation::to_object(call(Range, "InUse", {range}));
+}
+
+ObjectRef diBRXLLib::row_label(const ObjectRef& cell) const {
+    return automation::to_object(call(Worksheet, "RowLabel", {cell}));
+}
+
+ObjectRef diBRXLLib::column_label(const ObjectRef& cell) const {
+    return automation::to_object(call(Worksheet, "ColumnLabel", {cell}));
+}
+
+ObjectRef diBRXLLib::row_heading(const ObjectRef& cell) const {
+    return automation::to_object(call(Worksheet, "RowHeading", {cell}));
+}
+
+ObjectRef diBRXLLib::column_heading(const ObjectRef& cell) const {
+    return automation::to_object(call(Worksheet, "ColumnHeading", {cell}));
+}
+
+std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns) const {
+    return automation::to_text(call(Formula, "Shift", {formula, rows, columns}));
+}
+
+std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns,
+                                     std::int32_t row, std::int32_t column) const {
+    return automation::to_text(call(Formula, "Shift", {formula, rows, columns, row, column}));
+}
+
+void diBRXLLib::display_array(const automation::Value& array, std::string_view title) const {
+    call(Display, "DisplayArray", {array, title});
 }
 
 }  // namespace kestrune::core

@@ -2,13 +2,16 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/bridges/LibraryBridge.h"
 
 namespace kestrune::core {
 
-// The spreadsheet library: workbook state and palettes. The typed calls fail as automation calls do.
+// The spreadsheet library: what workbooks, sheets, cells and formulas hold. The typed calls fail as automation calls
+// do.
 class diBRXLLib : public LibraryBridge {
   public:
     explicit diBRXLLib(const automation::Trace& trace) : LibraryBridge("BRXLLib.iPublic", names, trace) {}
@@ -33,6 +36,29 @@ class diBRXLLib : public LibraryBridge {
 
     // The entry (1 to 56) of a workbook's palette that lies nearest to a BGR colour.
     [[nodiscard]] std::int32_t nearest_color_index(std::int32_t color, const automation::ObjectRef& workbook) const;
+
+    // What a cell holds: 1 nothing, 2 text, 3 a logical value, 4 an error, 5 a date, 6 a time, 7 both, 8 a number.
+    [[nodiscard]] std::int32_t content_kind(const automation::ObjectRef& cell) const;
+    // The same of every cell of a rectangle, row by row.
+    [[nodiscard]] std::vector<std::int32_t> content_kinds(const automation::ObjectRef& range) const;
+    // The part of a range that lies in its sheet's used range, or Nothing.
+    [[nodiscard]] automation::ObjectRef in_use(const automation::ObjectRef& range) const;
+
+    // The cell whose text labels a cell's row (at its left) or column (above it), or Nothing.
+    [[nodiscard]] automation::ObjectRef row_label(const automation::ObjectRef& cell) const;
+    [[nodiscard]] automation::ObjectRef column_label(const automation::ObjectRef& cell) const;
+    // To ask when there is no label: the first cell of the row or column that holds anything, or Nothing.
+    [[nodiscard]] automation::ObjectRef row_heading(const automation::ObjectRef& cell) const;
+    [[nodiscard]] automation::ObjectRef column_heading(const automation::ObjectRef& cell) const;
+
+    // An R1C1 formula with its relative references moved. Given the row and column (from 1) of the cell it is for, a
+    // reference pushed off the sheet becomes #REF!.
+    [[nodiscard]] std::string shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns) const;
+    [[nodiscard]] std::string shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns,
+                                            std::int32_t row, std::int32_t column) const;
+
+    // Shows an array as a table.
+    void display_array(const automation::Value& array, std::string_view title) const;
 
   private:
     enum Place : std::size_t {

@@ -1,0 +1,38 @@
+#include "brxllib/iRange.h"
+
+#include "brxllib/ContentKind.h"
+#include "excel/Worksheet.h"
+
+namespace kestrune::brxllib {
+
+using automation::Array;
+using automation::MemberTable;
+using automation::method;
+using automation::ObjectRef;
+using automation::Value;
+
+Value iRange::content_kind(const ObjectRef& object) const {
+    const excel::Range all(object);
+    // What stands in several rectangles reads as the first of them.
+    const excel::Range range = all.Areas().Item(1);
+    const auto kinds = content_kinds(range);
+    if (kinds.size() == 1) return static_cast<std::int32_t>(kinds.front());
+    const std::int32_t rows = range.Rows().Count();
+    Array answer(Array::Bound{1, rows}, Array::Bound{1, static_cast<std::int32_t>(kinds.size()) / rows});
+    for (std::size_t i = 0; i < kinds.size(); ++i) answer.elements()[i] = static_cast<std::int32_t>(kinds[i]);
+    return answer;
+}
+
+ObjectRef iRange::in_use(const ObjectRef& object) const {
+    const excel::Range range(object);
+    return library_->application.Intersect(range, range.Worksheet().UsedRange()).object();
+}
+
+const MemberTable& iRange::members() {
+    static constexpr auto rows = automation::member_rows(method<&iRange::content_kind>("ContentKind", 1, "Range"),
+                                                         method<&iRange::in_use>("InUse", 2, "Range"));
+    static constexpr MemberTable table("iRange", rows);
+    return table;
+}
+
+}  // namespace kestrune::brxllib

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <memory>
+#include <utility>
+
+#include "automation/MemberTable.h"
+#include "brxllib/Library.h"
+
+namespace kestrune::brxllib {
+
+// Questions about cells.
+class iRange : public automation::Served<iRange> {
+  public:
+    explicit iRange(std::shared_ptr<Library> library) : library_(std::move(library)) {}
+    static const automation::MemberTable& members();
+
+  private:
+    // The content kind (ContentKind.h) of a cell; of several cells, those of the first area as a 2-D array from 1.
+    [[nodiscard]] automation::Value content_kind(const automation::ObjectRef& range) const;
+    // The part of a range that lies in its sheet's used range, or Nothing.
+    [[nodiscard]] automation::ObjectRef in_use(const automation::ObjectRef& range) const;
+
+    std::shared_ptr<Library> library_;
+};
+
+}  // namespace kestrune::brxllib
