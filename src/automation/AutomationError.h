@@ -23,6 +23,7 @@ inline constexpr HResult bad_index = of(0x8002000B);           // DISP_E_BADINDE
 inline constexpr HResult bad_argument_count = of(0x8002000E);  // DISP_E_BADPARAMCOUNT
 inline constexpr HResult not_optional = of(0x8002000F);        // DISP_E_PARAMNOTOPTIONAL
 inline constexpr HResult class_not_registered = of(0x80040154);
+inline constexpr HResult workbook_gone = of(0x800401A8);    // what Excel answers for an object of a closed workbook
 inline constexpr HResult object_required = of(0x800A01A8);  // run-time error 424
 inline constexpr HResult excel_error = of(0x800A03EC);      // run-time error 1004
 }  // namespace hresult

@@ -9,6 +9,7 @@ OpenWorkbook::OpenWorkbook(const std::string& path) : file_(host::WorkbookFile::
     host::Workbook& workbook = file_->workbook();
     workbook.name = place.filename().string();
     workbook.path = place.parent_path().string();
+    session_.store = &store_;
     session_.open(workbook);
     application_ = excel::Application(host::make_application(session_));
 }

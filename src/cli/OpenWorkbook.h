@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "cli/FileStore.h"
 #include "excel/Application.h"
 #include "host/objects/HostSession.h"
 #include "host/xlsx/WorkbookFile.h"
@@ -16,6 +17,8 @@ class OpenWorkbook {
     explicit OpenWorkbook(const std::string& path);
 
     [[nodiscard]] excel::Application application() const { return application_; }
+    // Brings the workbook to the front, in case that a command opened another one.
+    void activate() { session_.activate(model()); }
     [[nodiscard]] host::Workbook& model() { return file_->workbook(); }
     [[nodiscard]] const host::HostSession& session() const { return session_; }
     [[nodiscard]] host::PackageKind kind() const { return file_->package().kind(); }
@@ -24,6 +27,7 @@ class OpenWorkbook {
 
   private:
     std::unique_ptr<host::WorkbookFile> file_;
+    FileStore store_;  // what commands open besides
     host::HostSession session_;
     excel::Application application_;
 };

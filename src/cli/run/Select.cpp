@@ -56,6 +56,7 @@ excel::Range find_cells(OpenWorkbook& book, const std::string& target) {
 }
 
 void select_cells(OpenWorkbook& book, const std::string& target) {
+    book.activate();
     const excel::Range cells = find_cells(book, target);
     const excel::Worksheet sheet = cells.Worksheet();
     if (sheet.Visible() != excel::xlSheetVisible) {

@@ -4,6 +4,7 @@
 #include <ranges>
 
 #include "host/objects/AreaSets.h"
+#include "host/objects/ManyArguments.h"
 #include "host/objects/NamesObject.h"
 #include "host/objects/Optional.h"
 #include "host/objects/RangeObject.h"
@@ -36,20 +37,10 @@ constexpr std::string_view thirty_ranges =
     "[Arg15], [Arg16], [Arg17], [Arg18], [Arg19], [Arg20], [Arg21], [Arg22], [Arg23], [Arg24], [Arg25], [Arg26], "
     "[Arg27], [Arg28], [Arg29], [Arg30]";
 
-template <ObjectRef (ApplicationObject::*function)(std::span<const Value>) const>
-constexpr Member of_ranges(std::string_view name, std::int32_t id) {
-    Member member;
-    member.name = name;
-    member.id = id;
-    member.is_method = true;
-    member.parameters = thirty_ranges;
-    member.parameter_count = 30;
-    member.required_count = 2;
-    member.run = [](automation::Object& self, std::span<Value> arguments) {
-        return Value((static_cast<ApplicationObject&>(self).*function)(arguments));
-    };
-    return member;
-}
+constexpr std::string_view macro_and_thirty_arguments =
+    "[Macro], [Arg1], [Arg2], [Arg3], [Arg4], [Arg5], [Arg6], [Arg7], [Arg8], [Arg9], [Arg10], [Arg11], [Arg12], "
+    "[Arg13], [Arg14], [Arg15], [Arg16], [Arg17], [Arg18], [Arg19], [Arg20], [Arg21], [Arg22], [Arg23], [Arg24], "
+    "[Arg25], [Arg26], [Arg27], [Arg28], [Arg29], [Arg30]";
 
 }  // namespace
 
@@ -139,11 +130,22 @@ ObjectRef ApplicationObject::intersect(std::span<const Value> arguments) const {
 
 void ApplicationObject::go_to(const Value& reference, const Value& scroll) {
     constexpr std::string_view member = "Application.Goto";
-    RangeObject target(range_anywhere(member, session(), worksheet(member), reference, Missing{}));
+    // Cells are where they are; a text counts from the active sheet.
+    RangeObject target(reference.if_is<std::string>()
+                           ? range_anywhere(member, session(), worksheet(member), reference, Missing{})
+                           : range_argument(member, reference)->cell_range());
     Sheet& sheet = target.cell_range().sheet();
     if (!session().activate(sheet)) refuse(member, "the sheet '" + sheet.name() + "' is hidden");
     target.select();
     if (value_or(scroll, false)) session().active()->scroll[&sheet] = target.cell_range().first().top_left();
+}
+
+Value ApplicationObject::run(std::span<const Value> arguments) {
+    while (!arguments.empty() && arguments.back().is(Value::Kind::Missing)) {
+        arguments = arguments.first(arguments.size() - 1);
+    }
+    if (arguments.empty()) refuse("Application.Run", "no macro is named");
+    return session().run_macro(automation::to_text(arguments.front()), arguments.subspan(1));
 }
 
 void ApplicationObject::set_calculation(std::int32_t mode) {
@@ -196,7 +198,7 @@ const MemberTable& ApplicationObject::members() {
         read_only<&A::worksheets>("Worksheets", 12), read_only<&A::sheets>("Sheets", 13),
         read_only<&A::names>("Names", 14), read_only<&A::range>("Range", 15, "Cell1, [Cell2]"),
         read_only<&A::cells>("Cells", 16), read_only<&A::rows>("Rows", 17), read_only<&A::columns>("Columns", 18),
-        of_ranges<&A::unite>("Union", 19), of_ranges<&A::intersect>("Intersect", 20),
+        of_many<&A::unite>("Union", 19, thirty_ranges), of_many<&A::intersect>("Intersect", 20, thirty_ranges),
         method<&A::go_to>("Goto", 21, "[Reference], [Scroll]"),
         property<&A::screen_updating, &A::set_screen_updating>("ScreenUpdating", 22),
         property<&A::enable_events, &A::set_enable_events>("EnableEvents", 23),
@@ -212,7 +214,8 @@ const MemberTable& ApplicationObject::members() {
         property<&A::window_state, &A::set_window_state>("WindowState", 34),
         property<&A::left, &A::set_left>("Left", 35), property<&A::top, &A::set_top>("Top", 36),
         property<&A::width, &A::set_width>("Width", 37), property<&A::height, &A::set_height>("Height", 38),
-        read_only<&A::usable_width>("UsableWidth", 39), read_only<&A::usable_height>("UsableHeight", 40));
+        read_only<&A::usable_width>("UsableWidth", 39), read_only<&A::usable_height>("UsableHeight", 40),
+        of_many<&A::run>("Run", 41, macro_and_thirty_arguments));
     static constexpr MemberTable table("Application", rows);
     return table;
 }

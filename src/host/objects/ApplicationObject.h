@@ -35,6 +35,8 @@ class ApplicationObject final : public WindowPlaceObject<ApplicationObject> {
     [[nodiscard]] ObjectRef intersect(std::span<const Value> ranges) const;  // Nothing when they share no cell
     // Selects cells, an address or a name, on whatever sheet they are.
     void go_to(const Value& reference, const Value& scroll);
+    // Runs a macro by its name with up to thirty arguments; what it answers.
+    [[nodiscard]] Value run(std::span<const Value> arguments);
 
     [[nodiscard]] bool screen_updating() const { return session().screen_updating; }
     void set_screen_updating(bool on) { session().screen_updating = on; }

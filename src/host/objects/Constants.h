@@ -8,6 +8,8 @@ namespace kestrune::host {
 inline constexpr std::int32_t xlAutomatic = -4105;
 inline constexpr std::int32_t xlNone = -4142;
 
+inline constexpr std::int32_t xlWBATWorksheet = -4167;
+
 inline constexpr std::int32_t xlA1 = 1;
 inline constexpr std::int32_t xlR1C1 = -4150;
 

@@ -22,12 +22,20 @@ using automation::property;
 using automation::read_only;
 using automation::Value;
 
-// An object of the embedded Excel: served by its class's member table, its calls from outside counted.
+// An object of the embedded Excel: served by its class's member table, its calls from outside counted. One that tells
+// its home, the workbook that it is part of, answers no more when that is closed.
 template <class Derived>
 class HostObject : public automation::Served<Derived> {
   public:
     Value invoke(std::string_view member, Call kind, Arguments& arguments) override {
         const HostSession::Entry entry(session_);
+        if constexpr (requires(const Derived& object) { object.home(); }) {
+            if (!session_.is_open(static_cast<const Derived*>(this)->home())) {
+                throw automation::AutomationError(automation::hresult::workbook_gone,
+                                                  std::string(this->type_name()) + "." + std::string(member),
+                                                  "the workbook is closed");
+            }
+        }
         try {
             return automation::Served<Derived>::invoke(member, kind, arguments);
         } catch (const ModelError& error) {

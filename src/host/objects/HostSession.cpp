@@ -1,28 +1,116 @@
 #include "host/objects/HostSession.h"
 
+#include <algorithm>
+
+#include "automation/Text.h"
 #include "host/objects/Refusal.h"
 #include "host/objects/SheetOrder.h"
 
 namespace kestrune::host {
 
-Workbook& HostSession::open(std::unique_ptr<Workbook> workbook) {
-    open(*workbook);
-    active_->owned = std::move(workbook);
-    return *active_->model;
+using automation::Value;
+
+std::string full_name(const Workbook& workbook) {
+    if (workbook.path.empty()) return workbook.name;
+    // A path keeps the separator of the system that it comes from.
+    const char separator = workbook.path.find('\\') != std::string::npos ? '\\' : '/';
+    return workbook.path + separator + workbook.name;
 }
 
-void HostSession::open(Workbook& workbook) {
+OpenWorkbook& HostSession::take_in(Workbook& workbook) {
     auto opened = std::make_unique<OpenWorkbook>();
     opened->model = &workbook;
     workbooks_.push_back(std::move(opened));
     active_ = workbooks_.back().get();
+    return *active_;
+}
+
+Workbook& HostSession::open(std::unique_ptr<Workbook> workbook) {
+    Workbook& model = *workbook;
+    take_in(model).owned = std::move(workbook);
+    return model;
+}
+
+void HostSession::open(Workbook& workbook) { take_in(workbook); }
+
+Workbook& HostSession::open_file(const std::string& path) {
+    constexpr std::string_view member = "Workbooks.Open";
+    auto stored = store ? store->open(path) : nullptr;
+    if (!stored) {
+        refuse(member, "Sorry, we couldn't find " + path + ". Is it possible it was moved, renamed or deleted?");
+    }
+    Workbook& model = stored->workbook();
+    if (const OpenWorkbook* same = find(full_name(model))) {
+        activate(*same->model);
+        return *same->model;
+    }
+    if (find(model.name)) {
+        refuse(member, "Sorry, Excel can't open two workbooks with the same name at the same time: " + model.name);
+    }
+    take_in(model).stored = std::move(stored);
+    return model;
+}
+
+Workbook& HostSession::add_workbook() {
+    auto fresh = std::make_unique<Workbook>();
+    do fresh->name = "Book" + std::to_string(++added_);
+    while (find(fresh->name));
+    fresh->add_sheet("Sheet1");
+    return open(std::move(fresh));
+}
+
+void HostSession::close(const Workbook& workbook) {
+    const auto place =
+        std::ranges::find_if(workbooks_, [&](const auto& candidate) { return candidate->model == &workbook; });
+    if (place == workbooks_.end()) refuse("Workbook.Close", "the workbook is not open");
+    closed_.push_back(std::move(*place));
+    workbooks_.erase(place);
+    if (active_ == closed_.back().get()) active_ = workbooks_.empty() ? nullptr : workbooks_.back().get();
+}
+
+OpenWorkbook* HostSession::find(const Workbook& workbook) const {
+    for (const auto& candidate : workbooks_) {
+        if (candidate->model == &workbook) return candidate.get();
+    }
+    return nullptr;
+}
+
+OpenWorkbook* HostSession::find(std::string_view name) const {
+    for (const auto& candidate : workbooks_) {
+        if (automation::same_text(candidate->model->name, name)) return candidate.get();
+        if (automation::same_text(full_name(*candidate->model), name)) return candidate.get();
+    }
+    return nullptr;
 }
 
 OpenWorkbook& HostSession::opened(const Workbook& workbook) const {
-    for (const auto& candidate : workbooks_) {
-        if (candidate->model == &workbook) return *candidate;
+    OpenWorkbook* open = find(workbook);
+    if (!open) refuse("Workbook", "the workbook is not open");
+    return *open;
+}
+
+Value HostSession::run_macro(std::string_view name, std::span<const Value> arguments) {
+    const MacroName wanted = MacroName::parse(name);
+    const Macro* macro = nullptr;
+    if (!wanted.workbook.empty()) {
+        const OpenWorkbook* home = find(wanted.workbook);
+        if (home) macro = macros.find(home->model->name, wanted.macro);
+    } else {
+        if (active_) macro = macros.find(active_->model->name, wanted.macro);
+        if (!macro) macro = macros.find({}, wanted.macro);
+        for (std::size_t i = 0; !macro && i < workbooks_.size(); ++i) {
+            macro = macros.find(workbooks_[i]->model->name, wanted.macro);
+        }
     }
-    refuse("Workbook", "the workbook is not open");
+    if (!macro) {
+        refuse("Application.Run", "Cannot run the macro '" + std::string(name) +
+                                      "'. The macro may not be available in this workbook or all macros may be "
+                                      "disabled.");
+    }
+    // A copy, since the macro may replace itself.
+    const Macro function = *macro;
+    const Outside outside(*this);
+    return function(arguments);
 }
 
 Sheet* HostSession::active_sheet() const {

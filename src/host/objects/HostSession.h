@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,6 +11,8 @@
 #include "automation/Object.h"
 #include "host/model/Workbook.h"
 #include "host/objects/Constants.h"
+#include "host/objects/Macros.h"
+#include "host/objects/WorkbookStore.h"
 
 namespace kestrune::host {
 
@@ -32,15 +35,19 @@ struct WindowPlace {
 // A workbook that is open, and what its one window remembers about it besides the sheets' own views.
 struct OpenWorkbook {
     Workbook* model = nullptr;
-    std::unique_ptr<Workbook> owned;  // the same, unless its owner is elsewhere
+    std::unique_ptr<Workbook> owned;         // the same, unless its owner is elsewhere
+    std::unique_ptr<StoredWorkbook> stored;  // its file, when it came from the session's store
     WindowPlace window{xlMaximized, {0, 0, 720, 405}};
     std::string caption;                      // empty: the workbook's name
     bool saved = true;                        // whether nothing has changed since it was opened or last called saved
     std::map<const Sheet*, Position> scroll;  // the top-left cell shown; A1 where absent
 };
 
-// One run of the embedded Excel: its workbooks and the state of the application. The objects that it
-// serves stay valid as long as it lives.
+// Name and folder of a workbook; the name alone when it has never been saved.
+std::string full_name(const Workbook& workbook);
+
+// One run of the embedded Excel: its workbooks and the state of the application. The objects that it serves are safe
+// to call as long as it lives; those of a closed workbook answer that it is gone.
 class HostSession {
   public:
     HostSession() = default;
@@ -50,13 +57,23 @@ class HostSession {
     // Takes a filled workbook in and makes it the active one. One that stays with its owner must outlive the session.
     Workbook& open(std::unique_ptr<Workbook> workbook);
     void open(Workbook& workbook);
+    // A file's workbook, made the active one; one that is open already comes to the front as it is. Fails with error
+    // 1004 when there is no such file, or another workbook of its name is open.
+    Workbook& open_file(const std::string& path);
+    // Makes a workbook of one empty sheet under the next free name ("Book2") the active one.
+    Workbook& add_workbook();
+    // Takes a workbook out without saving it; the one opened last becomes active.
+    void close(const Workbook& workbook);
 
     // How many automation calls came from outside. What an object calls while it answers counts nothing.
     [[nodiscard]] std::int64_t calls() const { return calls_; }
 
     [[nodiscard]] const std::vector<std::unique_ptr<OpenWorkbook>>& workbooks() const { return workbooks_; }
     [[nodiscard]] OpenWorkbook& opened(const Workbook& workbook) const;
-    [[nodiscard]] OpenWorkbook* active() const { return active_; }  // null when no workbook is open
+    [[nodiscard]] bool is_open(const Workbook& workbook) const { return find(workbook) != nullptr; }
+    [[nodiscard]] OpenWorkbook* find(const Workbook& workbook) const;  // null when it is not open
+    [[nodiscard]] OpenWorkbook* find(std::string_view name) const;     // by name or full name, whatever its case
+    [[nodiscard]] OpenWorkbook* active() const { return active_; }     // null when no workbook is open
     void activate(const Workbook& workbook) { active_ = &opened(workbook); }
     // The sheet on top of the active workbook's window; null without one.
     [[nodiscard]] Sheet* active_sheet() const;
@@ -66,6 +83,13 @@ class HostSession {
     void leave_hidden(Workbook& workbook);
     // Notes that a workbook differs from what was saved.
     void changed(const Workbook& workbook) { opened(workbook).saved = false; }
+
+    // Runs a macro as Application.Run does. Without a workbook in its name the active workbook's macros come first,
+    // then those of add-ins, then those of the other workbooks. Error 1004 when there is none.
+    automation::Value run_macro(std::string_view name, std::span<const automation::Value> arguments);
+
+    Macros macros;
+    WorkbookStore* store = nullptr;  // what Workbooks.Open opens; without one it finds nothing. Outlives the session
 
     WindowPlace window{xlMaximized, {180, 101.25, 1080, 607.5}};
     std::string caption;  // empty: the application's name
@@ -96,11 +120,27 @@ class HostSession {
         HostSession& session_;
     };
 
+    // Marks code that the host runs for somebody else while it answers a call: what that code calls counts again.
+    class Outside {
+      public:
+        explicit Outside(HostSession& session) : session_(session), depth_(session.depth_) { session_.depth_ = 0; }
+        ~Outside() { session_.depth_ = depth_; }
+        Outside(const Outside&) = delete;
+        Outside& operator=(const Outside&) = delete;
+
+      private:
+        HostSession& session_;
+        int depth_;
+    };
+
   private:
     static void bring_up(Sheet& sheet);
+    OpenWorkbook& take_in(Workbook& workbook);
 
     std::vector<std::unique_ptr<OpenWorkbook>> workbooks_;
+    std::vector<std::unique_ptr<OpenWorkbook>> closed_;  // kept, since objects of theirs may still be held
     OpenWorkbook* active_ = nullptr;
+    std::int32_t added_ = 0;
     std::int64_t calls_ = 0;
     int depth_ = 0;
 };

@@ -21,6 +21,7 @@ class RangeObject final : public HostObject<RangeObject> {
         : HostObject(cells.session()), cells_(std::move(cells)), unit_(unit) {}
 
     [[nodiscard]] const CellRange& cell_range() const { return cells_; }
+    [[nodiscard]] const Workbook& home() const { return cells_.sheet().workbook(); }
 
     // Where it is: RangePlace.cpp.
     [[nodiscard]] ObjectRef worksheet() const;

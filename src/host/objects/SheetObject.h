@@ -16,6 +16,7 @@ template <class Derived>
 class SheetObject : public HostObject<Derived> {
   public:
     [[nodiscard]] Sheet& sheet() const { return sheet_; }
+    [[nodiscard]] const Workbook& home() const { return sheet_.workbook(); }
     [[nodiscard]] std::string name() const { return sheet_.name(); }
     [[nodiscard]] ObjectRef parent() const { return workbook_object(this->session(), sheet_.workbook()); }
     [[nodiscard]] std::int32_t index() const { return position_of(sheet_) + 1; }

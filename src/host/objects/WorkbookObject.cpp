@@ -26,13 +26,6 @@ ObjectRef workbook_object(HostSession& session, Workbook& workbook) {
     return std::make_shared<WorkbookObject>(session, workbook);
 }
 
-std::string WorkbookObject::full_name() const {
-    if (workbook_.path.empty()) return workbook_.name;
-    // A path keeps the separator of the system that it comes from.
-    const char separator = workbook_.path.find('\\') != std::string::npos ? '\\' : '/';
-    return workbook_.path + separator + workbook_.name;
-}
-
 ObjectRef WorkbookObject::worksheets() const { return std::make_shared<WorksheetsObject>(session(), workbook_); }
 ObjectRef WorkbookObject::sheets() const { return std::make_shared<SheetsObject>(session(), workbook_); }
 ObjectRef WorkbookObject::names() const { return std::make_shared<NamesObject>(session(), workbook_); }
@@ -77,6 +70,25 @@ void WorkbookObject::reset_colors() {
     session().changed(workbook_);
 }
 
+void WorkbookObject::save() {
+    OpenWorkbook& opened = session().opened(workbook_);
+    if (!opened.stored) refuse("Workbook.Save", "'" + workbook_.name + "' came from no file");
+    opened.stored->save();
+    opened.saved = true;
+}
+
+void WorkbookObject::close(const Value& save_changes, const Value& file_name, const Value&) {
+    if (!file_name.is(Value::Kind::Missing)) refuse("Workbook.Close", "a workbook is saved under its own name only");
+    if (save_changes.is(Value::Kind::Missing)) {
+        if (!saved() && session().display_alerts) {
+            refuse("Workbook.Close", "'" + workbook_.name + "' has changes; SaveChanges tells what becomes of them");
+        }
+    } else if (automation::to_boolean(save_changes) && !saved()) {
+        save();
+    }
+    session().close(workbook_);
+}
+
 const MemberTable& WorkbookObject::members() {
     using W = WorkbookObject;
     static constexpr auto rows = automation::member_rows(
@@ -87,7 +99,8 @@ const MemberTable& WorkbookObject::members() {
         read_only<&W::active_sheet>("ActiveSheet", 10), method<&W::activate>("Activate", 11),
         property<&W::colors, &W::set_colors>("Colors", 12, "[Index]"), method<&W::reset_colors>("ResetColors", 13),
         property<&W::saved, &W::set_saved>("Saved", 14), read_only<&W::protect_structure>("ProtectStructure", 15),
-        read_only<&W::date1904>("Date1904", 16));
+        read_only<&W::date1904>("Date1904", 16), method<&W::save>("Save", 17),
+        method<&W::close>("Close", 18, "[SaveChanges], [FileName], [RouteWorkbook]"));
     static constexpr MemberTable table("Workbook", rows);
     return table;
 }

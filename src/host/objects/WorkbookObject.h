@@ -10,9 +10,10 @@ class WorkbookObject final : public HostObject<WorkbookObject> {
 
     WorkbookObject(HostSession& session, Workbook& workbook) : HostObject(session), workbook_(workbook) {}
 
+    [[nodiscard]] const Workbook& home() const { return workbook_; }
     [[nodiscard]] std::string name() const { return workbook_.name; }
     [[nodiscard]] std::string path() const { return workbook_.path; }
-    [[nodiscard]] std::string full_name() const;
+    [[nodiscard]] std::string full_name() const { return host::full_name(workbook_); }
     [[nodiscard]] ObjectRef worksheets() const;
     [[nodiscard]] ObjectRef sheets() const;
     [[nodiscard]] ObjectRef names() const;
@@ -25,6 +26,11 @@ class WorkbookObject final : public HostObject<WorkbookObject> {
     void reset_colors();
     [[nodiscard]] bool saved() const { return session().opened(workbook_).saved; }
     void set_saved(bool saved) { session().opened(workbook_).saved = saved; }
+    // Writes it into the file that it came from; error 1004 when it came from none.
+    void save();
+    // SaveChanges left out asks the user in Excel. Nobody is there to ask: a workbook with changes stays open with
+    // error 1004, unless the alerts are off, where Excel drops the changes as well.
+    void close(const Value& save_changes, const Value& file_name, const Value& route);
     [[nodiscard]] bool protect_structure() const { return workbook_.structure_protected; }
     [[nodiscard]] bool date1904() const { return workbook_.date1904; }
 
