@@ -16,6 +16,8 @@
 #include "host/objects/FontObject.h"
 #include "host/objects/FormatConditionObject.h"
 #include "host/objects/FormatConditionsObject.h"
+#include "host/objects/HyperlinkObject.h"
+#include "host/objects/HyperlinksObject.h"
 #include "host/objects/InteriorObject.h"
 #include "host/objects/NameObject.h"
 #include "host/objects/NamesObject.h"
@@ -81,6 +83,8 @@ TEST(ServedMembers, AreExcels) {
         &FontObject::members(),
         &FormatConditionObject::members(),
         &FormatConditionsObject::members(),
+        &HyperlinkObject::members(),
+        &HyperlinksObject::members(),
         &InteriorObject::members(),
         &NameObject::members(),
         &NamesObject::members(),

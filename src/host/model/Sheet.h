@@ -12,6 +12,7 @@
 
 #include "host/model/Cell.h"
 #include "host/model/ConditionalFormat.h"
+#include "host/model/Hyperlink.h"
 #include "host/model/RowsAndColumns.h"
 #include "host/model/SheetView.h"
 
@@ -174,6 +175,9 @@ class Sheet {
     void delete_conditional_formats(const Area& area);  // from these cells only; other cells keep theirs
     bool conditional_formats_changed = false;
 
+    // Read from the file and only read: saving keeps them as they stand there.
+    [[nodiscard]] std::vector<Hyperlink>& hyperlinks() { return ensure_loaded(), hyperlinks_; }
+
     [[nodiscard]] SheetView& view() { return ensure_loaded(), view_; }
     [[nodiscard]] SheetProtection& protection() { return ensure_loaded(), protection_; }
 
@@ -231,6 +235,7 @@ class Sheet {
     ColumnRuns columns_;
     std::vector<Area> merges_;
     std::vector<ConditionalFormat> conditional_formats_;
+    std::vector<Hyperlink> hyperlinks_;
     SheetDefaults defaults_;
     SheetView view_;
     SheetProtection protection_;

@@ -7,11 +7,17 @@
 namespace kestrune::host {
 
 // Excel's Application. Without an open workbook what is active is Nothing.
-class ApplicationObject final : public WindowPlaceObject<ApplicationObject> {
+class ApplicationObject final : public WindowPlaceObject<ApplicationObject>, public automation::EventSource {
   public:
     static const MemberTable& members();
 
     explicit ApplicationObject(HostSession& session) : WindowPlaceObject(session) {}
+
+    // NewWorkbook, WorkbookOpen, WorkbookActivate and WorkbookDeactivate (a workbook); SheetActivate (a sheet);
+    // SheetChange and SheetSelectionChange (a sheet and a range).
+    std::unique_ptr<automation::Subscription> subscribe(automation::EventListener listener) override {
+        return session().subscribe(std::move(listener));
+    }
 
     [[nodiscard]] std::string name() const { return "Microsoft Excel"; }
     [[nodiscard]] std::string version() const { return "16.0"; }

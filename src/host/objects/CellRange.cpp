@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
+#include "host/objects/RangeObject.h"
 #include "host/objects/Refusal.h"
+#include "host/objects/SheetObject.h"
 
 namespace kestrune::host {
 namespace {
@@ -40,6 +42,12 @@ void CellRange::require_content_allowed(std::string_view member) const {
             refuse(member, "a cell is locked and the sheet '" + sheet_->name() + "' is protected");
         }
     }
+}
+
+void CellRange::content_changed() const {
+    changed();
+    if (!session_->heard()) return;
+    session_->raise("SheetChange", {sheet_object(*session_, *sheet_), std::make_shared<RangeObject>(*this)});
 }
 
 }  // namespace kestrune::host

@@ -50,6 +50,8 @@ class CellRange {
 
     // Notes a change of the workbook.
     void changed() const { session_->changed(workbook()); }
+    // The same for a change of values or formulas, of which Excel tells the world.
+    void content_changed() const;
 
   private:
     HostSession* session_;

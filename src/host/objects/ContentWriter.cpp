@@ -71,7 +71,7 @@ void ContentWriter::write(const Value& value) {
     } else {
         write_scalar(value);
     }
-    cells_.changed();
+    cells_.content_changed();
 }
 
 bool ContentWriter::is_text(StyleId style) const {
@@ -215,7 +215,7 @@ void ContentWriter::write_array_formula(const std::string& formula) {
     const Position from = cells_.first().top_left();
     if (rules_.notation == formula::Notation::r1c1) stored = formula::to_a1(stored, from);
     cells_.sheet().set_array_formula(cells_.first(), std::move(stored));
-    cells_.changed();
+    cells_.content_changed();
 }
 
 void ContentWriter::clear() {

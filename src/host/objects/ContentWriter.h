@@ -22,7 +22,7 @@ class ContentWriter {
     // One array formula, without "=", over the only area.
     void write_array_formula(const std::string& formula);
 
-    // Takes values and formulas away.
+    // Takes values and formulas away. Who calls it tells the world, when all is done.
     void clear();
 
   private:

@@ -1,9 +1,11 @@
 #include "host/objects/HostSession.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "automation/Text.h"
 #include "host/objects/Refusal.h"
+#include "host/objects/SheetObject.h"
 #include "host/objects/SheetOrder.h"
 
 namespace kestrune::host {
@@ -21,17 +23,22 @@ OpenWorkbook& HostSession::take_in(Workbook& workbook) {
     auto opened = std::make_unique<OpenWorkbook>();
     opened->model = &workbook;
     workbooks_.push_back(std::move(opened));
-    active_ = workbooks_.back().get();
-    return *active_;
+    return *workbooks_.back();
+}
+
+void HostSession::welcome(OpenWorkbook& newcomer) {
+    raise_of(newcomer.model->path.empty() ? "NewWorkbook" : "WorkbookOpen", *newcomer.model);
+    come_to_front(newcomer);
 }
 
 Workbook& HostSession::open(std::unique_ptr<Workbook> workbook) {
-    Workbook& model = *workbook;
-    take_in(model).owned = std::move(workbook);
-    return model;
+    OpenWorkbook& newcomer = take_in(*workbook);
+    newcomer.owned = std::move(workbook);
+    welcome(newcomer);
+    return *newcomer.model;
 }
 
-void HostSession::open(Workbook& workbook) { take_in(workbook); }
+void HostSession::open(Workbook& workbook) { welcome(take_in(workbook)); }
 
 Workbook& HostSession::open_file(const std::string& path) {
     constexpr std::string_view member = "Workbooks.Open";
@@ -47,7 +54,9 @@ Workbook& HostSession::open_file(const std::string& path) {
     if (find(model.name)) {
         refuse(member, "Sorry, Excel can't open two workbooks with the same name at the same time: " + model.name);
     }
-    take_in(model).stored = std::move(stored);
+    OpenWorkbook& newcomer = take_in(model);
+    newcomer.stored = std::move(stored);
+    welcome(newcomer);
     return model;
 }
 
@@ -60,12 +69,46 @@ Workbook& HostSession::add_workbook() {
 }
 
 void HostSession::close(const Workbook& workbook) {
+    if (!is_open(workbook)) refuse("Workbook.Close", "the workbook is not open");
+    Workbook& model = *opened(workbook).model;
+    if (heard()) {
+        // A listener keeps the workbook open by setting Cancel.
+        const auto told = raise("WorkbookBeforeClose", {workbook_object(*this, model), false});
+        if (automation::to_boolean(told.positional[1]) || !is_open(workbook)) return;
+    }
+    if (active_ && active_->model == &workbook) raise_of("WorkbookDeactivate", model);
     const auto place =
         std::ranges::find_if(workbooks_, [&](const auto& candidate) { return candidate->model == &workbook; });
-    if (place == workbooks_.end()) refuse("Workbook.Close", "the workbook is not open");
+    if (place == workbooks_.end()) return;
     closed_.push_back(std::move(*place));
     workbooks_.erase(place);
-    if (active_ == closed_.back().get()) active_ = workbooks_.empty() ? nullptr : workbooks_.back().get();
+    if (active_ != closed_.back().get()) return;
+    active_ = workbooks_.empty() ? nullptr : workbooks_.back().get();
+    if (active_) raise_of("WorkbookActivate", *active_->model);
+}
+
+void HostSession::come_to_front(OpenWorkbook& workbook) {
+    if (active_ == &workbook) return;
+    if (active_) raise_of("WorkbookDeactivate", *active_->model);
+    active_ = &workbook;
+    raise_of("WorkbookActivate", *workbook.model);
+}
+
+void HostSession::activate(const Workbook& workbook) { come_to_front(opened(workbook)); }
+
+automation::Arguments HostSession::raise(std::string_view event, automation::Arguments arguments) {
+    if (!heard()) return arguments;
+    const Outside outside(*this);
+    listeners_.tell(event, arguments);
+    return arguments;
+}
+
+void HostSession::raise_of(std::string_view event, Workbook& workbook) {
+    if (heard()) raise(event, {workbook_object(*this, workbook)});
+}
+
+void HostSession::raise_of(std::string_view event, Sheet& sheet) {
+    if (heard()) raise(event, {sheet_object(*this, sheet)});
 }
 
 OpenWorkbook* HostSession::find(const Workbook& workbook) const {
@@ -123,8 +166,9 @@ Sheet* HostSession::active_sheet() const {
 
 bool HostSession::activate(Sheet& sheet) {
     if (sheet.visibility != Visibility::Visible) return false;
-    bring_up(sheet);
+    const bool moved = bring_up(sheet);
     activate(sheet.workbook());
+    if (moved) raise_of("SheetActivate", sheet);
     return true;
 }
 
@@ -136,16 +180,19 @@ void HostSession::leave_hidden(Workbook& workbook) {
     for (std::int32_t distance = 0; distance < count; ++distance) {
         const std::int32_t position = active + distance < count ? active + distance : count - 1 - distance;
         Sheet& sheet = *sheets[static_cast<std::size_t>(position)];
-        if (sheet.visibility == Visibility::Visible) return bring_up(sheet);
+        if (sheet.visibility != Visibility::Visible) continue;
+        if (bring_up(sheet) && active_ && active_->model == &workbook) raise_of("SheetActivate", sheet);
+        return;
     }
 }
 
-void HostSession::bring_up(Sheet& sheet) {
+bool HostSession::bring_up(Sheet& sheet) {
     Workbook& workbook = sheet.workbook();
     const std::int32_t position = position_of(sheet);
-    if (workbook.active_sheet == position) return;
+    if (workbook.active_sheet == position) return false;
     workbook.active_sheet = position;
     workbook.active_sheet_changed = true;
+    return true;
 }
 
 }  // namespace kestrune::host

@@ -11,6 +11,7 @@
 #include "automation/Object.h"
 #include "host/model/Workbook.h"
 #include "host/objects/Constants.h"
+#include "host/objects/Listeners.h"
 #include "host/objects/Macros.h"
 #include "host/objects/WorkbookStore.h"
 
@@ -54,7 +55,8 @@ class HostSession {
     HostSession(const HostSession&) = delete;
     HostSession& operator=(const HostSession&) = delete;
 
-    // Takes a filled workbook in and makes it the active one. One that stays with its owner must outlive the session.
+    // Takes a filled workbook in and makes it the active one; the events are those of opening a file, or of a new
+    // workbook for one that no file holds. One that stays with its owner must outlive the session.
     Workbook& open(std::unique_ptr<Workbook> workbook);
     void open(Workbook& workbook);
     // A file's workbook, made the active one; one that is open already comes to the front as it is. Fails with error
@@ -62,7 +64,8 @@ class HostSession {
     Workbook& open_file(const std::string& path);
     // Makes a workbook of one empty sheet under the next free name ("Book2") the active one.
     Workbook& add_workbook();
-    // Takes a workbook out without saving it; the one opened last becomes active.
+    // Takes a workbook out without saving it, unless a listener to WorkbookBeforeClose keeps it; the one opened last
+    // becomes active.
     void close(const Workbook& workbook);
 
     // How many automation calls came from outside. What an object calls while it answers counts nothing.
@@ -74,7 +77,7 @@ class HostSession {
     [[nodiscard]] OpenWorkbook* find(const Workbook& workbook) const;  // null when it is not open
     [[nodiscard]] OpenWorkbook* find(std::string_view name) const;     // by name or full name, whatever its case
     [[nodiscard]] OpenWorkbook* active() const { return active_; }     // null when no workbook is open
-    void activate(const Workbook& workbook) { active_ = &opened(workbook); }
+    void activate(const Workbook& workbook);
     // The sheet on top of the active workbook's window; null without one.
     [[nodiscard]] Sheet* active_sheet() const;
     // Brings a sheet to the top of its workbook's window. A hidden sheet does not come: false.
@@ -87,6 +90,14 @@ class HostSession {
     // Runs a macro as Application.Run does. Without a workbook in its name the active workbook's macros come first,
     // then those of add-ins, then those of the other workbooks. Error 1004 when there is none.
     automation::Value run_macro(std::string_view name, std::span<const automation::Value> arguments);
+
+    // The application's events: whoever listens is told at once, unless EnableEvents is off. Gives the arguments back
+    // as the listeners left them.
+    [[nodiscard]] std::unique_ptr<automation::Subscription> subscribe(automation::EventListener listener) {
+        return listeners_.add(std::move(listener));
+    }
+    [[nodiscard]] bool heard() const { return enable_events && listeners_.any(); }
+    automation::Arguments raise(std::string_view event, automation::Arguments arguments);
 
     Macros macros;
     WorkbookStore* store = nullptr;  // what Workbooks.Open opens; without one it finds nothing. Outlives the session
@@ -134,12 +145,17 @@ class HostSession {
     };
 
   private:
-    static void bring_up(Sheet& sheet);
+    [[nodiscard]] static bool bring_up(Sheet& sheet);  // whether another sheet was on top
     OpenWorkbook& take_in(Workbook& workbook);
+    void welcome(OpenWorkbook& newcomer);
+    void come_to_front(OpenWorkbook& workbook);
+    void raise_of(std::string_view event, Workbook& workbook);
+    void raise_of(std::string_view event, Sheet& sheet);
 
     std::vector<std::unique_ptr<OpenWorkbook>> workbooks_;
     std::vector<std::unique_ptr<OpenWorkbook>> closed_;  // kept, since objects of theirs may still be held
     OpenWorkbook* active_ = nullptr;
+    Listeners listeners_;
     std::int32_t added_ = 0;
     std::int64_t calls_ = 0;
     int depth_ = 0;

@@ -192,7 +192,10 @@ Value RangeObject::prefix_character() const {
     return read_format([](const CellFormat& format) { return format.quote_prefix ? "'" : ""; });
 }
 
-void RangeObject::clear_contents() { ContentWriter("Range.ClearContents", cells_, formula::Notation::a1).clear(); }
+void RangeObject::clear_contents() {
+    ContentWriter("Range.ClearContents", cells_, formula::Notation::a1).clear();
+    cells_.content_changed();
+}
 
 void RangeObject::clear_formats() {
     cells_.restyle("Range.ClearFormats", [](StyleId) { return StyleId{0}; });
@@ -206,6 +209,7 @@ void RangeObject::clear() {
     cells_.require_format_allowed("Range.Clear");
     ContentWriter("Range.Clear", cells_, formula::Notation::a1).clear();
     clear_formats();
+    cells_.content_changed();
 }
 
 }  // namespace kestrune::host

@@ -6,6 +6,7 @@
 #include "host/objects/BordersObject.h"
 #include "host/objects/FontObject.h"
 #include "host/objects/FormatConditionsObject.h"
+#include "host/objects/HyperlinksObject.h"
 #include "host/objects/InteriorObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/Refusal.h"
@@ -100,6 +101,7 @@ ObjectRef RangeObject::font() const { return std::make_shared<FontObject>(cells_
 ObjectRef RangeObject::interior() const { return std::make_shared<InteriorObject>(cells_); }
 ObjectRef RangeObject::borders() const { return std::make_shared<BordersObject>(cells_); }
 ObjectRef RangeObject::format_conditions() const { return std::make_shared<FormatConditionsObject>(cells_); }
+ObjectRef RangeObject::hyperlinks() const { return std::make_shared<HyperlinksObject>(cells_); }
 
 Value RangeObject::number_format() const {
     return read_format([&](const CellFormat& format) { return cells_.styles().number_format(format.number_format); });

@@ -56,7 +56,8 @@ const MemberTable& RangeObject::members() {
         property<&R::hidden, &R::set_hidden>("Hidden", 60),
         property<&R::outline_level, &R::set_outline_level>("OutlineLevel", 61),
         property<&R::merge_cells, &R::set_merge_cells>("MergeCells", 62), read_only<&R::merge_area>("MergeArea", 63),
-        method<&R::merge>("Merge", 64, "[Across]"), method<&R::un_merge>("UnMerge", 65));
+        method<&R::merge>("Merge", 64, "[Across]"), method<&R::un_merge>("UnMerge", 65),
+        read_only<&R::hyperlinks>("Hyperlinks", 66));
     static constexpr MemberTable table("Range", rows);
     return table;
 }

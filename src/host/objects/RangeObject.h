@@ -81,6 +81,7 @@ class RangeObject final : public HostObject<RangeObject> {
     [[nodiscard]] ObjectRef interior() const;
     [[nodiscard]] ObjectRef borders() const;
     [[nodiscard]] ObjectRef format_conditions() const;
+    [[nodiscard]] ObjectRef hyperlinks() const;  // those that touch it
     [[nodiscard]] Value number_format() const;
     void set_number_format(const std::string& code);
     [[nodiscard]] Value horizontal_alignment() const;  // XlHAlign

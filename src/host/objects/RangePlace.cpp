@@ -86,10 +86,17 @@ void RangeObject::select() {
     if (session().active_sheet() != &sheet) {
         refuse("Range.Select", "the sheet '" + sheet.name() + "' is not the active one");
     }
-    sheet.view().selection.clear();
-    for (const Area& area : cells_.areas()) sheet.view().selection.push_back(with_merges(sheet, area));
+    std::vector<Area> selection;
+    for (const Area& area : cells_.areas()) selection.push_back(with_merges(sheet, area));
+    const bool other_cells = selection != sheet.view().selection;
+    sheet.view().selection = std::move(selection);
     sheet.view().active_cell = sheet.view().selection.front().top_left();
     sheet.view().selection_changed = true;
+    if (other_cells && session().heard()) {
+        session().raise(
+            "SheetSelectionChange",
+            {worksheet(), std::make_shared<RangeObject>(CellRange(session(), sheet, sheet.view().selection))});
+    }
 }
 
 void RangeObject::activate() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "host/objects/HyperlinksObject.h"
 #include "host/objects/NamesObject.h"
 #include "host/objects/OutlineObject.h"
 #include "host/objects/RangeObject.h"
@@ -48,6 +49,7 @@ ObjectRef WorksheetObject::used_range() const {
 
 ObjectRef WorksheetObject::names() const { return std::make_shared<NamesObject>(session(), sheet()); }
 ObjectRef WorksheetObject::outline() const { return std::make_shared<OutlineObject>(session(), sheet()); }
+ObjectRef WorksheetObject::hyperlinks() const { return std::make_shared<HyperlinksObject>(session(), sheet()); }
 
 double WorksheetObject::standard_width() const { return host::standard_width(sheet()); }
 
@@ -87,7 +89,8 @@ const MemberTable& WorksheetObject::members() {
         property<&W::standard_width, &W::set_standard_width>("StandardWidth", 13),
         read_only<&W::standard_height>("StandardHeight", 14), method<&W::activate>("Activate", 15),
         method<&W::select>("Select", 16, "[Replace]"), read_only<&W::protect_contents>("ProtectContents", 17),
-        read_only<&W::next>("Next", 18), read_only<&W::previous>("Previous", 19));
+        read_only<&W::next>("Next", 18), read_only<&W::previous>("Previous", 19),
+        read_only<&W::hyperlinks>("Hyperlinks", 20));
     static constexpr MemberTable table("Worksheet", rows);
     return table;
 }

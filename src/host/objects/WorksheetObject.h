@@ -17,6 +17,7 @@ class WorksheetObject final : public SheetObject<WorksheetObject> {
     [[nodiscard]] ObjectRef used_range() const;
     [[nodiscard]] ObjectRef names() const;
     [[nodiscard]] ObjectRef outline() const;
+    [[nodiscard]] ObjectRef hyperlinks() const;
     [[nodiscard]] double standard_width() const;  // characters of the Normal font
     void set_standard_width(double characters);   // 0 to 255
     [[nodiscard]] double standard_height() const { return sheet().defaults().default_row_height; }  // points

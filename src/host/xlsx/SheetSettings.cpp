@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 
 #include "formula/A1.h"
 #include "host/model/Workbook.h"
@@ -126,6 +127,27 @@ void read_conditions(const Reading& reading, const XmlElement& element) {
     reading.sheet.conditional_formats().push_back(std::move(*format));
 }
 
+// A link to no cell of the sheet is nobody's, and leads nowhere; the file keeps it.
+void read_hyperlinks(const Reading& reading, const XmlElement& element) {
+    std::map<std::string, std::string, std::less<>> targets;
+    for (const Relationship& relationship : reading.package.relationships(reading.part)) {
+        if (relationship.is("hyperlink")) targets.emplace(relationship.id, relationship.written);
+    }
+    for (auto child = element.first_child(); child; child = child.next()) {
+        if (child.local() != "hyperlink") continue;
+        const auto area = parse_area(child.value("ref"));
+        if (!area) continue;
+        Hyperlink link{*area, {}, child.value("location"), child.value("tooltip"), child.value("display")};
+        if (const auto target = targets.find(relationship_id(child)); target != targets.end()) {
+            // What stands behind "#" is the place in the file that the address names.
+            const std::size_t mark = link.sub_address.empty() ? target->second.find('#') : std::string::npos;
+            link.address = target->second.substr(0, mark);
+            if (mark != std::string::npos) link.sub_address = target->second.substr(mark + 1);
+        }
+        reading.sheet.hyperlinks().push_back(std::move(link));
+    }
+}
+
 void read_extensions(const Reading& reading, const XmlElement& element) {
     const auto formats = extension_formats(element);
     if (!formats) return;
@@ -148,6 +170,7 @@ constexpr auto children = std::to_array<Row>({
     {"sheetProtection", read_protection},
     {"mergeCells", read_merges},
     {"conditionalFormatting", read_conditions},
+    {"hyperlinks", read_hyperlinks},
     {"extLst", read_extensions},
 });
 

@@ -38,14 +38,6 @@ DefinedName read_name(const XmlElement& element) {
     return name;
 }
 
-// The id of a sheet's relationship: the one attribute called "id" that has a prefix.
-std::string relationship_id(const XmlElement& sheet) {
-    for (auto attribute = sheet.first_attribute(); attribute; attribute = sheet.attribute_after(attribute)) {
-        if (attribute.name.ends_with(":id")) return attribute.value();
-    }
-    return {};
-}
-
 SheetKind kind_of(const Relationship& relationship) {
     if (relationship.is("worksheet")) return SheetKind::Worksheet;
     return relationship.is("chartsheet") ? SheetKind::Chartsheet : SheetKind::Other;

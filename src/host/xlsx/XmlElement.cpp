@@ -54,6 +54,13 @@ bool is_end_tag(std::string_view text, std::size_t at) { return text.substr(at, 
 
 }  // namespace
 
+std::string relationship_id(const XmlElement& element) {
+    for (auto attribute = element.first_attribute(); attribute; attribute = element.attribute_after(attribute)) {
+        if (attribute.name.ends_with(":id")) return attribute.value();
+    }
+    return {};
+}
+
 bool xml_flag(std::string_view value) { return value == "1" || value == "true" || value == "on"; }
 
 std::string XmlAttribute::value() const { return unescaped_attribute(raw); }

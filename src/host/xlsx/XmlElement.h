@@ -73,6 +73,9 @@ class XmlElement {
     mutable std::size_t end_ = 0;
 };
 
+// The id of the relationship that an element names: its one attribute called "id" that has a prefix; else empty.
+[[nodiscard]] std::string relationship_id(const XmlElement& element);
+
 // "1", "true" and "on" are yes.
 [[nodiscard]] bool xml_flag(std::string_view value);
 
