@@ -8,6 +8,10 @@ target_compile_options(kestrune_flags INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   target_compile_options(kestrune_flags INTERFACE -Wno-restrict)
 endif()
+# COM's interfaces have no virtual destructors by design: objects go by Release.
+if(WIN32)
+  target_compile_options(kestrune_flags INTERFACE -Wno-non-virtual-dtor)
+endif()
 if(KESTRUNE_SANITIZERS)
   target_compile_options(kestrune_flags INTERFACE
     -fsanitize=${KESTRUNE_SANITIZERS} -fno-omit-frame-pointer -fno-sanitize-recover=all

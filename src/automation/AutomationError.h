@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -46,6 +48,21 @@ class AutomationError : public std::runtime_error {
     HResult code_;
     std::string member_;
     std::string description_;
+};
+
+// A call that did not fit the member: nothing ran. What fails inside a member is a plain AutomationError, even when a
+// call that the member made itself was wrong.
+class WrongCall final : public AutomationError {
+  public:
+    // argument: the position among the member's parameters of an argument of the wrong type, counted from 0.
+    WrongCall(HResult code, std::string_view member, std::string_view description,
+              std::optional<std::size_t> argument = std::nullopt)
+        : AutomationError(code, member, description), argument_(argument) {}
+
+    [[nodiscard]] std::optional<std::size_t> argument() const { return argument_; }
+
+  private:
+    std::optional<std::size_t> argument_;
 };
 
 }  // namespace kestrune::automation

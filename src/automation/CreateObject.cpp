@@ -1,6 +1,7 @@
 #include "automation/CreateObject.h"
 
 #include <map>
+#include <utility>
 
 #include "automation/AutomationError.h"
 #include "automation/Text.h"
@@ -13,11 +14,17 @@ std::map<std::string, ClassFactory, TextLess>& registry() {
     return classes;
 }
 
+ClassSource& class_source() {
+    static ClassSource source;
+    return source;
+}
+
 }  // namespace
 
 ObjectRef CreateObject(std::string_view prog_id) {
     const auto found = registry().find(prog_id);
     if (found == registry().end()) {
+        if (class_source()) return class_source()(prog_id);
         throw AutomationError(hresult::class_not_registered, prog_id, "the class is not registered");
     }
     return found->second();
@@ -31,5 +38,7 @@ void unregister_class(std::string_view prog_id) {
     const auto found = registry().find(prog_id);
     if (found != registry().end()) registry().erase(found);
 }
+
+void use_class_source(ClassSource source) { class_source() = std::move(source); }
 
 }  // namespace kestrune::automation

@@ -8,8 +8,8 @@
 
 namespace kestrune::automation {
 
-// A new object of a registered class ("BRVBLib.iPublic"). On Windows COM knows the classes; elsewhere
-// this process does. Fails with class-not-registered when nobody registered the name.
+// A new object of a class ("BRVBLib.iPublic"): of one that this process registered, else of one that a class source
+// knows, as COM does on Windows. Fails with class-not-registered when nobody knows the name.
 ObjectRef CreateObject(std::string_view prog_id);
 
 // What answers CreateObject. Process-wide, as the machine's class registry is on Windows; the program
@@ -17,5 +17,9 @@ ObjectRef CreateObject(std::string_view prog_id);
 using ClassFactory = std::function<ObjectRef()>;
 void register_class(std::string prog_id, ClassFactory factory);
 void unregister_class(std::string_view prog_id);
+
+// What is asked for classes that this process did not register. Fails as CreateObject does.
+using ClassSource = std::function<ObjectRef(std::string_view prog_id)>;
+void use_class_source(ClassSource source);
 
 }  // namespace kestrune::automation

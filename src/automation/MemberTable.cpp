@@ -17,8 +17,8 @@ std::size_t position_of(const MemberTable& table, const Member& member, std::str
     for (std::size_t i = 0; i < member.parameter_count; ++i) {
         if (same_text(detail::take_parameter(list).name, argument)) return i;
     }
-    throw AutomationError(hresult::unknown_name, full_name(table, member.name),
-                          fmt::format("there is no argument '{}'", argument));
+    throw WrongCall(hresult::unknown_name, full_name(table, member.name),
+                    fmt::format("there is no argument '{}'", argument));
 }
 
 // Runs a thunk with the arguments in their places, and gives by-reference changes back.
@@ -26,28 +26,33 @@ Value run_placed(const MemberTable& table, const Member& member, Thunk thunk, st
                  Object& self, Arguments& arguments) {
     const std::size_t given = arguments.positional.size();
     if (given > count) {
-        throw AutomationError(hresult::bad_argument_count, full_name(table, member.name),
-                              fmt::format("takes {} arguments, not {}", count, given));
+        throw WrongCall(hresult::bad_argument_count, full_name(table, member.name),
+                        fmt::format("takes {} arguments, not {}", count, given));
     }
     std::vector<Value> slots(count, Value(Missing{}));
     std::move(arguments.positional.begin(), arguments.positional.end(), slots.begin());
     for (auto& [name, value] : arguments.named) {
         Value& slot = slots[position_of(table, member, name)];
         if (!slot.is(Value::Kind::Missing)) {
-            throw AutomationError(hresult::bad_argument_count, full_name(table, member.name),
-                                  fmt::format("the argument '{}' is given twice", name));
+            throw WrongCall(hresult::bad_argument_count, full_name(table, member.name),
+                            fmt::format("the argument '{}' is given twice", name));
         }
         slot = value;
     }
     for (std::size_t i = 0; i < required; ++i) {
         if (slots[i].is(Value::Kind::Missing)) {
-            throw AutomationError(hresult::not_optional, full_name(table, member.name),
-                                  fmt::format("argument {} is missing", i + 1));
+            throw WrongCall(hresult::not_optional, full_name(table, member.name),
+                            fmt::format("argument {} is missing", i + 1));
         }
     }
     Value result;
     try {
         result = thunk(self, slots);
+    } catch (const detail::WrongArgument& wrong) {
+        throw WrongCall(wrong.code, full_name(table, member.name), wrong.description, wrong.position);
+    } catch (const WrongCall& error) {
+        // Wrong was a call that the member made, not this one.
+        throw AutomationError(error.code(), error.member(), error.description());
     } catch (const AutomationError& error) {
         // A failed conversion knows no member; the caller should read which one it was.
         if (error.member() != "conversion") throw;
@@ -73,7 +78,7 @@ const Member* MemberTable::find(std::int32_t id) const {
 Value MemberTable::invoke(Object& self, std::string_view name, Call kind, Arguments& arguments) const {
     const Member* member = find(name);
     if (!member) {
-        throw AutomationError(hresult::unknown_name, full_name(*this, name), "there is no such member");
+        throw WrongCall(hresult::unknown_name, full_name(*this, name), "there is no such member");
     }
     if (is_put(kind)) {
         if (!member->set && member->run && !member->is_method && !member->parameter_count) {
@@ -85,17 +90,17 @@ Value MemberTable::invoke(Object& self, std::string_view name, Call kind, Argume
             }
         }
         if (!member->set) {
-            throw AutomationError(hresult::member_not_found, full_name(*this, name), "cannot be written");
+            throw WrongCall(hresult::member_not_found, full_name(*this, name), "cannot be written");
         }
         if (arguments.positional.empty()) {
-            throw AutomationError(hresult::not_optional, full_name(*this, name), "the new value is missing");
+            throw WrongCall(hresult::not_optional, full_name(*this, name), "the new value is missing");
         }
         // The new value comes last, after parameters that may have been left out.
         Value fresh = std::move(arguments.positional.back());
         arguments.positional.pop_back();
         if (arguments.positional.size() > member->parameter_count) {
-            throw AutomationError(hresult::bad_argument_count, full_name(*this, name),
-                                  fmt::format("takes {} arguments", member->parameter_count));
+            throw WrongCall(hresult::bad_argument_count, full_name(*this, name),
+                            fmt::format("takes {} arguments", member->parameter_count));
         }
         arguments.positional.resize(member->parameter_count, Value(Missing{}));
         arguments.positional.push_back(std::move(fresh));
@@ -105,7 +110,7 @@ Value MemberTable::invoke(Object& self, std::string_view name, Call kind, Argume
     // Visual Basic calls late-bound names without saying whether they are methods or properties, and
     // Excel answers either; only a plain method that is read with Get alone is wrong enough to refuse.
     if (kind == Call::Get && member->is_method) {
-        throw AutomationError(hresult::member_not_found, full_name(*this, name), "is a method, not a property");
+        throw WrongCall(hresult::member_not_found, full_name(*this, name), "is a method, not a property");
     }
     if (!member->is_method && member->parameter_count == 0 && !arguments.positional.empty()) {
         Arguments none;

@@ -3,6 +3,7 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string>
 #include <string_view>
 #include <tuple>
 #include <type_traits>
@@ -55,12 +56,28 @@ struct FunctionShape<R (C::*)(A...)> {
 template <class C, class R, class... A>
 struct FunctionShape<R (C::*)(A...) const> : FunctionShape<R (C::*)(A...)> {};
 
+// An argument that does not convert to its parameter's type; the shared invoke puts the member's name to it.
+struct WrongArgument {
+    std::size_t position;
+    HResult code;
+    std::string description;
+};
+
+template <class T>
+T convert_argument(const Value& argument, std::size_t position) {
+    try {
+        return convert<T>(argument);
+    } catch (const AutomationError& error) {
+        throw WrongArgument{position, error.code(), error.description()};
+    }
+}
+
 template <class P>
-decltype(auto) pass(Value& argument) {
+decltype(auto) pass(Value& argument, std::size_t position) {
     if constexpr (std::is_same_v<P, Value&> || std::is_same_v<P, const Value&>) {
         return static_cast<Value&>(argument);
     } else {
-        return convert<std::remove_cvref_t<P>>(argument);
+        return convert_argument<std::remove_cvref_t<P>>(argument, position);
     }
 }
 
@@ -69,10 +86,10 @@ Value run_with(Object& self, [[maybe_unused]] std::span<Value> arguments, std::i
     using Shape = FunctionShape<decltype(F)>;
     auto& object = static_cast<typename Shape::Class&>(self);
     if constexpr (std::is_void_v<typename Shape::Result>) {
-        (object.*F)(pass<std::tuple_element_t<I, typename Shape::Parameters>>(arguments[I])...);
+        (object.*F)(pass<std::tuple_element_t<I, typename Shape::Parameters>>(arguments[I], I)...);
         return {};
     } else {
-        return Value((object.*F)(pass<std::tuple_element_t<I, typename Shape::Parameters>>(arguments[I])...));
+        return Value((object.*F)(pass<std::tuple_element_t<I, typename Shape::Parameters>>(arguments[I], I)...));
     }
 }
 
@@ -187,6 +204,7 @@ class Served : public Object {
         return Derived::members().invoke(*this, member, kind, arguments);
     }
     [[nodiscard]] std::string_view type_name() const override { return Derived::members().class_name(); }
+    [[nodiscard]] const MemberTable* member_table() const override { return &Derived::members(); }
 };
 
 }  // namespace kestrune::automation

@@ -11,6 +11,8 @@
 
 namespace kestrune::automation {
 
+class MemberTable;
+
 // How a member is called; the bits of OLE's DISPATCH_ flags, since a caller may leave open
 // whether a name is a method or a property.
 enum class Call : unsigned {
@@ -52,6 +54,9 @@ class Object : public std::enable_shared_from_this<Object> {
 
     // The name that TypeName would give ("Range", "iGlobal").
     [[nodiscard]] virtual std::string_view type_name() const = 0;
+
+    // The table that the object's class is served by; null when it has none, as objects of other programs.
+    [[nodiscard]] virtual const MemberTable* member_table() const { return nullptr; }
 };
 
 // The calls as one writes them; each is one automation call.

@@ -14,7 +14,7 @@ const Array* Value::array() const {
 bool Value::operator==(const Value& other) const {
     if (const Array* mine = array()) {
         const Array* theirs = other.array();
-        return theirs && *mine == *theirs;
+        return mine == theirs || (theirs && *mine == *theirs);
     }
     return data_ == other.data_;
 }

@@ -79,6 +79,12 @@ class Value {
     }
     [[nodiscard]] const Array* array() const;
 
+    // Calls the visitor with the alternative that is held.
+    template <class Visitor>
+    decltype(auto) visit(Visitor&& visitor) const {
+        return std::visit(std::forward<Visitor>(visitor), data_);
+    }
+
     // Same kind and same content; objects by identity, arrays element by element.
     bool operator==(const Value& other) const;
 

@@ -100,7 +100,7 @@ class CheckLayers(unittest.TestCase):
             "cli/Version.h.in": "",
             "cli/Main.cpp": include("cli/Version.h"),
             "excel/A.cpp": text,
-            "windows/ComClient.h": "#include <oaidl.h>\n",
+            "windows/com/ComClient.h": "#include <oaidl.h>\n",
         }
         self.assertEqual(check(files), (0, []))
 

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <windows.h>
+
+#include <oaidl.h>
+
+#include <string>
+
+namespace kestrune::windows {
+
+// The class of an object as Visual Basic's TypeName has it: by its class information, else by its interface's name
+// without the underscore that hides one. "Object" when it tells neither.
+std::string read_type_name(IDispatch& object);
+
+}  // namespace kestrune::windows
