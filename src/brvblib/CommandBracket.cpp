@@ -10,6 +10,12 @@ constexpr std::string_view screen_updating = "ScreenUpdating";
 
 }  // namespace
 
+CommandBracket::~CommandBracket() {
+    if (depth_ == 0) return;
+    depth_ = 1;
+    end();
+}
+
 void CommandBracket::begin(const automation::ObjectRef& application) {
     if (depth_++ > 0 || !application) return;
     application_ = application;

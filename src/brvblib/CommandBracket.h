@@ -14,6 +14,10 @@ namespace kestrune::brvblib {
 class CommandBracket {
   public:
     explicit CommandBracket(const automation::Trace& trace) : trace_(trace) {}
+    CommandBracket(const CommandBracket&) = delete;
+    CommandBracket& operator=(const CommandBracket&) = delete;
+    // A library that is let go of in the middle of a command leaves no frozen screen behind.
+    ~CommandBracket();
 
     // application: Excel's Application, or Nothing when there is none to look after.
     void begin(const automation::ObjectRef& application);

@@ -5,8 +5,7 @@
 
 #include "automation/Object.h"
 #include "automation/Text.h"
-#include "automation/Trace.h"
-#include "brvblib/ProductSettings.h"
+#include "brvblib/Services.h"
 
 namespace kestrune::brvblib {
 
@@ -18,10 +17,11 @@ struct Client {
 
 // What the library's objects share.
 struct Library {
-    const automation::Trace& trace;  // outlives the library
-    ProductSettings settings;
-    automation::ObjectRef application;  // Excel's Application; Nothing until a client hands it over
-    std::map<std::string, Client, automation::TextLess> clients;
+    Services services;
+    automation::ObjectRef application{};  // Excel's Application; Nothing until a client hands it over
+    std::map<std::string, Client, automation::TextLess> clients{};
+    // What hot keys call, by client; it goes when its client does.
+    std::map<std::string, automation::ObjectRef, automation::TextLess> hot_key_callbacks{};
 };
 
 }  // namespace kestrune::brvblib

@@ -1,8 +1,11 @@
 #include "brvblib/iProduct.h"
 
+#include <fmt/format.h>
+
 #include <utility>
 
 #include "automation/ResumeNext.h"
+#include "brvblib/Messages.h"
 
 namespace kestrune::brvblib {
 
@@ -10,7 +13,8 @@ using automation::MemberTable;
 using automation::method;
 using automation::Value;
 
-iProduct::iProduct(std::shared_ptr<Library> library) : library_(std::move(library)), bracket_(library_->trace) {}
+iProduct::iProduct(std::shared_ptr<Library> library)
+    : library_(std::move(library)), bracket_(library_->services.trace) {}
 
 void iProduct::register_client(const std::string& client_name, const std::string& product_name,
                                const std::string& title) {
@@ -18,15 +22,22 @@ void iProduct::register_client(const std::string& client_name, const std::string
 }
 
 bool iProduct::show_examples_at_start() const {
-    return automation::to_boolean(library_->settings.value("ShowExamples"));
+    return automation::to_boolean(library_->services.products->value("ShowExamples"));
 }
 
 bool iProduct::allows_training() const {
-    const Value installed = library_->settings.value("TT");
+    const Value installed = library_->services.products->value("TT");
     return installed.is(Value::Kind::Empty) || automation::to_boolean(installed);
 }
 
-Value iProduct::machine_value(const std::string& name) const { return library_->settings.value(name); }
+Value iProduct::machine_value(const std::string& name) const { return library_->services.products->value(name); }
+
+std::string_view iProduct::message(std::int32_t number, std::int32_t language) const {
+    const auto text = language == english ? message_text(number) : std::nullopt;
+    if (text) return *text;
+    throw automation::AutomationError(automation::hresult::bad_index, "iProduct.Message",
+                                      fmt::format("there is no message {} in language {}", number, language));
+}
 
 void iProduct::command_bracket(bool ended, const std::string&) {
     // One Excel, one screen: brackets of several products nest in each other.
@@ -43,7 +54,8 @@ const MemberTable& iProduct::members() {
         method<&iProduct::show_examples_at_start>("ShowExamplesAtStart", 2),
         method<&iProduct::allows_training>("AllowsTraining", 3),
         method<&iProduct::machine_value>("MachineValue", 4, "Name"),
-        method<&iProduct::command_bracket>("CommandBracket", 5, "Ended, Product"));
+        method<&iProduct::command_bracket>("CommandBracket", 5, "Ended, Product"),
+        method<&iProduct::message>("Message", 6, "Number, Language"));
     static constexpr MemberTable table("iProduct", rows);
     return table;
 }

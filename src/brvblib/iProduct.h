@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "automation/MemberTable.h"
 #include "brvblib/CommandBracket.h"
@@ -24,6 +25,8 @@ class iProduct : public automation::Served<iProduct> {
     [[nodiscard]] automation::Value machine_value(const std::string& name) const;
     // Before a command (ended False) and after it (True) of the product named.
     void command_bracket(bool ended, const std::string& product);
+    // A user message by its number and language; bad index where there is none. The language is 1033, English.
+    [[nodiscard]] std::string_view message(std::int32_t number, std::int32_t language) const;
 
     std::shared_ptr<Library> library_;
     CommandBracket bracket_;

@@ -21,12 +21,14 @@ class iPublic : public automation::Served<iPublic> {
     bool unregister_client(const std::string& client_name);
 
     [[nodiscard]] automation::ObjectRef constants() const { return const_; }
+    [[nodiscard]] automation::ObjectRef hot_keys() const { return hot_keys_; }
     [[nodiscard]] automation::ObjectRef product() const { return product_; }
     [[nodiscard]] automation::ObjectRef screen() const { return screen_; }
     [[nodiscard]] automation::ObjectRef strings() const { return string_; }
 
     std::shared_ptr<Library> library_;
     automation::ObjectRef const_;
+    automation::ObjectRef hot_keys_;
     automation::ObjectRef product_;
     automation::ObjectRef screen_;
     automation::ObjectRef string_;

@@ -70,7 +70,7 @@ void iScreen::place(std::int32_t window, std::int32_t placement) const {
     const Box& share = shares[static_cast<std::size_t>(placement - first_share)];
     // Excel refuses a place and a size to a maximised window.
     automation::put(application, "WindowState", xlNormal);
-    const automation::ResumeNext attempt(library_->trace);
+    const automation::ResumeNext attempt(library_->services.trace);
     attempt([&] { automation::put(application, "Left", area.left + share.left * area.width); });
     attempt([&] { automation::put(application, "Top", area.top + share.top * area.height); });
     attempt([&] { automation::put(application, "Width", share.width * area.width); });

@@ -8,9 +8,9 @@
 
 namespace kestrune::brvblib {
 
-void register_library(const automation::Trace& trace, ProductSettings settings) {
-    automation::register_class("BRVBLib.iPublic", [&trace, settings = std::move(settings)] {
-        return std::make_shared<iPublic>(std::make_shared<Library>(Library{trace, settings, {}, {}}));
+void register_library(Services services) {
+    automation::register_class("BRVBLib.iPublic", [services = std::move(services)] {
+        return std::make_shared<iPublic>(std::make_shared<Library>(Library{services}));
     });
 }
 

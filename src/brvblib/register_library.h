@@ -1,11 +1,10 @@
 #pragma once
 
-#include "automation/Trace.h"
-#include "brvblib/ProductSettings.h"
+#include "brvblib/Services.h"
 
 namespace kestrune::brvblib {
 
-// Lets CreateObject("BRVBLib.iPublic") make the general library. The trace outlives every object made.
-void register_library(const automation::Trace& trace, ProductSettings settings = {});
+// Lets CreateObject("BRVBLib.iPublic") make the general library.
+void register_library(Services services);
 
 }  // namespace kestrune::brvblib

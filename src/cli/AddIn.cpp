@@ -9,7 +9,7 @@
 namespace kestrune::cli {
 
 AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace) {
-    brvblib::register_library(trace);
+    brvblib::register_library({.trace = trace, .presenter = presenter});
     brxllib::register_library(trace, {.presenter = &presenter});
     core::register_add_in(presenter, trace);
     public_ = automation::CreateObject("KestruneXL.iPublic");

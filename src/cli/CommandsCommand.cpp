@@ -39,8 +39,8 @@ void list_commands(bool json) {
         const brvblib::CommandText& text = text_of(command);
         if (text.group != group) fmt::print("{}{}\n", group.empty() ? "" : "\n", text.group);
         group = text.group;
-        fmt::print("{:>5}{:<3} {:<34} {}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
-                   text.description, command.body ? "" : " (not available yet)");
+        fmt::print("{:>5}{:<3} {:<34} {:<20} {}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
+                   text.key, text.description, command.body ? "" : " (not available yet)");
     }
 }
 

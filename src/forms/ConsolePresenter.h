@@ -14,7 +14,12 @@ class ConsolePresenter : public Presenter {
     // Both streams outlive the presenter.
     ConsolePresenter(std::istream& input, std::ostream& output) : input_(input), output_(output) {}
 
+    // A plain Enter takes the proposed name where there is one and cancels otherwise, as does the end of the input. A
+    // file to open must be there; before one that is there is written over, it asks.
+    std::optional<std::string> choose_file(const FileDialog& dialog) override;
+
   private:
+    [[nodiscard]] std::optional<std::string> next_line();
     MsgBoxResult answer_to(const Message& message) override;
 
     std::istream& input_;

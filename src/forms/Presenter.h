@@ -1,8 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <optional>
+#include <string>
 #include <utility>
 
+#include "forms/FileDialog.h"
 #include "forms/Message.h"
 
 namespace kestrune::forms {
@@ -22,6 +25,12 @@ class Presenter {
         const MsgBoxResult answer = answer_to(message);
         if (listener_) listener_(message, answer);
         return answer;
+    }
+
+    // Asks for a file: its path, or nothing when the person cancels. A presenter without file dialogs cancels.
+    virtual std::optional<std::string> choose_file(const FileDialog& dialog) {
+        static_cast<void>(dialog);
+        return std::nullopt;
     }
 
     // Is told of every message box after it was answered, whichever presenter showed it.

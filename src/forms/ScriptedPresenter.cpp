@@ -53,4 +53,12 @@ MsgBoxResult ScriptedPresenter::answer_to(const Message& message) {
     return policy_answer(policy_, message.buttons);
 }
 
+std::optional<std::string> ScriptedPresenter::choose_file(const FileDialog& dialog) {
+    file_dialogs_.push_back(dialog);
+    if (files_.empty()) return std::nullopt;
+    const auto answer = std::move(files_.front());
+    files_.pop_front();
+    return answer;
+}
+
 }  // namespace kestrune::forms

@@ -2,7 +2,9 @@
 
 #include <deque>
 #include <optional>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/Presenter.h"
@@ -28,6 +30,13 @@ class ScriptedPresenter : public Presenter {
     // the policy decides.
     void answer_next(MsgBoxResult answer) { queue_.push_back(answer); }
 
+    // Answers the next file dialog that is not spoken for with a path, or cancels it. With no answer left a dialog is
+    // cancelled: there is no file that a script could mean.
+    void choose_next(std::optional<std::string> path) { files_.push_back(std::move(path)); }
+    std::optional<std::string> choose_file(const FileDialog& dialog) override;
+    // Every file dialog shown so far.
+    [[nodiscard]] const std::vector<FileDialog>& file_dialogs() const { return file_dialogs_; }
+
     // Every message shown so far.
     [[nodiscard]] const std::vector<Message>& messages() const { return messages_; }
 
@@ -37,6 +46,8 @@ class ScriptedPresenter : public Presenter {
     AnswerPolicy policy_;
     std::deque<MsgBoxResult> queue_;
     std::vector<Message> messages_;
+    std::deque<std::optional<std::string>> files_;
+    std::vector<FileDialog> file_dialogs_;
 };
 
 }  // namespace kestrune::forms

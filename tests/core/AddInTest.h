@@ -19,7 +19,7 @@ struct AddInTest : testing::Test {
     AddInTest() {
         application->window = std::make_shared<fake::Window>(log);
         application->workbook = std::make_shared<fake::Workbook>("model", log);
-        brvblib::register_library(trace);
+        brvblib::register_library({.trace = trace, .presenter = presenter});
         brxllib::register_library(trace);
         register_add_in(presenter, trace);
         trace.listen([this](std::string_view line) { skipped.emplace_back(line); });

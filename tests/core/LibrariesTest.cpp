@@ -21,19 +21,35 @@ struct LibrariesTest : AddInTest {
 TEST_F(LibrariesTest, EveryCommandHasItsTexts) {
     const ObjectRef strings = part("BRVBLib.iPublic", "iString");
     std::set<std::string> names;
+    std::set<std::string> keys;
     for (const Command& command : commands()) {
         const auto text = [&](std::int32_t base) {
             return automation::to_text(call(*strings, "Text", {base + command.number}));
         };
         names.insert(text(2000));
-        for (const std::int32_t base : {2000, 12000, 22000}) EXPECT_NE(text(base), "") << base + command.number;
+        for (const std::int32_t base : {2000, 12000, 32000, 42000}) EXPECT_NE(text(base), "") << base + command.number;
+        EXPECT_THAT(text(12000), testing::EndsWith("."));
+        // A topic is part of a defined name, "bbr.kestrune.SmartCopy.start.ebr".
+        EXPECT_THAT(text(42000), testing::MatchesRegex("[A-Za-z]+"));
+        const std::string key = text(22000);
+        if (key.empty()) continue;
+        EXPECT_TRUE(keys.insert(key).second) << key << " runs two commands";
+        EXPECT_THAT(key, testing::MatchesRegex("Ctrl[+](Alt[+])?(Shift[+])?([A-Z0-9.,=-]|\\[|\\]|[A-Z][A-Za-z]+)"));
+        EXPECT_THAT(key, testing::Not(testing::MatchesRegex("Ctrl[+]Alt[+](Shift[+])?[A-Z0-9]")))
+            << "types a character where AltGr is on the keyboard";
     }
     EXPECT_EQ(names.size(), commands().size()) << "no two commands share a name";
+    // What everybody presses in Excel stays Excel's.
+    for (const char* excels : {"Ctrl+Shift+L", "Ctrl+Shift+V", "Ctrl+Shift+;", "Ctrl+Shift+O", "Ctrl+Shift+Home"}) {
+        EXPECT_FALSE(keys.contains(excels)) << excels;
+    }
     // The numbers of the string table and those of the command table mean the same commands.
     EXPECT_EQ(call(*strings, "Text", {2019}), Value("General Number SmartCycle"));
     EXPECT_EQ(call(*strings, "Text", {2097}), Value("Right Indent SmartCycle"));
-    EXPECT_EQ(call(*strings, "Text", {22099}), Value("View"));
-    for (const std::int32_t nobodys : {-1, 0, 1999, 2103, 3025, 12103, 52000}) {
+    EXPECT_EQ(call(*strings, "Text", {22020}), Value("Ctrl+Shift+4"));
+    EXPECT_EQ(call(*strings, "Text", {32099}), Value("View"));
+    EXPECT_EQ(call(*strings, "Text", {42001}), Value("SmartCopy"));
+    for (const std::int32_t nobodys : {-1, 0, 1999, 2103, 3024, 12103, 52000}) {
         EXPECT_THROW(call(*strings, "Text", {nobodys}), AutomationError) << nobodys;
     }
 }
@@ -62,14 +78,15 @@ TEST_F(LibrariesTest, NearestColorComesFromTheWorkbooksPalette) {
 }
 
 TEST_F(LibrariesTest, ProductSettingsDecideAboutStartUp) {
-    const auto answers = [&](brvblib::ProductSettings settings) {
-        brvblib::register_library(trace, std::move(settings));
+    const auto answers = [&](brvblib::StatedValues::Values values) {
+        brvblib::register_library({.trace = trace,
+                                   .presenter = presenter,
+                                   .products = std::make_shared<brvblib::StatedValues>(std::move(values))});
         const ObjectRef product = part("BRVBLib.iPublic", "iProduct");
         return std::pair{call(*product, "ShowExamplesAtStart"), call(*product, "AllowsTraining")};
     };
     EXPECT_EQ(answers({}), std::pair(Value(false), Value(true)));
-    EXPECT_EQ(answers(brvblib::ProductSettings({{"ShowExamples", true}, {"TT", 0}})),
-              std::pair(Value(true), Value(false)));
+    EXPECT_EQ(answers({{"ShowExamples", true}, {"TT", 0}}), std::pair(Value(true), Value(false)));
 }
 
 TEST_F(LibrariesTest, AnApplicationStaysUntilTheLastClientLeaves) {

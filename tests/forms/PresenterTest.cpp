@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
+#include <fstream>
 #include <sstream>
 
 #include "forms/ConsolePresenter.h"
@@ -94,6 +96,46 @@ TEST(ConsolePresenter, ShowsTheChoicesAndLeavesOtherLinesAlone) {
     std::string rest;
     std::getline(input, rest);
     EXPECT_EQ(rest, "next") << "a box with nothing to choose reads nothing";
+}
+
+TEST(ConsolePresenter, AsksForFiles) {
+    const std::filesystem::path folder = testing::TempDir() + "kestrune-files";
+    std::filesystem::create_directories(folder / "below");
+    std::ofstream(folder / "here.xml") << "x";
+    std::filesystem::remove(folder / "new.xml");
+    const std::string in = folder.string() + "/";
+    const auto open = FileDialog::Purpose::Open;
+    const auto save = FileDialog::Purpose::Save;
+    const struct {
+        FileDialog::Purpose purpose;
+        const char* proposed;
+        std::string typed;
+        std::optional<std::string> path;
+    } cases[] = {
+        {open, "", "here.xml\n", in + "here.xml"},   {open, "", "nowhere.xml\n" + in + "here.xml\r\n", in + "here.xml"},
+        {open, "", "below\nhere\n\n", {}},  // a folder, and a name without its ending
+        {open, "here.xml", "\n", in + "here.xml"},   {open, "", "", {}},
+        {save, "new.xml", "\n", in + "new.xml"},     {save, "", "new\n", in + "new.xml"},
+        {save, "", "new.txt\n", in + "new.txt"},     {save, "", "here.xml\nyes\n", in + "here.xml"},
+        {save, "", "here\n\nnew\n", in + "new.xml"},  // a plain Enter writes over nothing
+    };
+    for (const auto& c : cases) {
+        std::istringstream input(c.typed);
+        std::ostringstream output;
+        ConsolePresenter presenter(input, output);
+        EXPECT_EQ(presenter.choose_file({c.purpose, "Import", "XML Files (*.xml)", "*.xml", c.proposed, in}), c.path)
+            << c.typed << output.str();
+    }
+}
+
+TEST(ScriptedPresenter, ChoosesFilesFromAQueue) {
+    ScriptedPresenter presenter;
+    presenter.choose_next("a.xml");
+    presenter.choose_next(std::nullopt);
+    EXPECT_EQ(presenter.choose_file({}), "a.xml");
+    EXPECT_EQ(presenter.choose_file({}), std::nullopt);
+    EXPECT_EQ(presenter.choose_file({}), std::nullopt) << "with no answer left";
+    EXPECT_EQ(presenter.file_dialogs().size(), 3U);
 }
 
 }  // namespace

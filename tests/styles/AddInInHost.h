@@ -26,7 +26,7 @@ struct AddInInHost : testing::Test {
         model->add_sheet("Sheet1");
         workbook = &session.open(std::move(model));
         application = excel::Application(host::make_application(session));
-        brvblib::register_library(trace);
+        brvblib::register_library({.trace = trace, .presenter = presenter});
         brxllib::register_library(trace, {.presenter = &presenter});
         core::register_add_in(presenter, trace);
         start();

@@ -1,9 +1,11 @@
 #include "core/bridges/diBRVBLib.h"
 
 #include "automation/Conversion.h"
+#include "core/bridges/Product.h"
 
 namespace kestrune::core {
 
+using automation::to_boolean;
 using automation::to_text;
 
 void diBRVBLib::set_application(const automation::ObjectRef& application) const {
@@ -12,6 +14,31 @@ void diBRVBLib::set_application(const automation::ObjectRef& application) const 
 
 std::string diBRVBLib::constant(std::int32_t index) const { return to_text(call(Const, "Text", {index})); }
 
+void diBRVBLib::register_hot_keys(const automation::ObjectRef& callback) const {
+    const auto registry =
+        automation::to_object(automation::get(automation::to_required_object(iHotKeys()), "Registry"));
+    automation::call(*registry, "RegisterCallback", {client_name, callback});
+}
+
+void diBRVBLib::set_hot_key_product(std::string_view text) const {
+    const auto registry =
+        automation::to_object(automation::get(automation::to_required_object(iHotKeys()), "Registry"));
+    automation::put(*registry, "Product", text);
+}
+
+bool diBRVBLib::shows_examples_at_start() const { return to_boolean(call(Product, "ShowExamplesAtStart")); }
+
+bool diBRVBLib::allows_training() const { return to_boolean(call(Product, "AllowsTraining")); }
+
+automation::Value diBRVBLib::machine_value(std::string_view name) const {
+    return call(Product, "MachineValue", {name});
+}
+
+std::string diBRVBLib::message(Text number) const {
+    constexpr std::int32_t english = 1033;
+    return to_text(call(Product, "Message", {static_cast<std::int32_t>(number), english}));
+}
+
 void diBRVBLib::command_bracket(bool ended) const { call(Product, "CommandBracket", {ended, constant(0)}); }
 
 std::string diBRVBLib::text(std::int32_t number) const { return to_text(call(String, "Text", {number})); }
@@ -19,6 +46,34 @@ std::string diBRVBLib::text(std::int32_t number) const { return to_text(call(Str
 std::string diBRVBLib::style_key(std::string_view style_name) const {
     return to_text(call(String, "StyleKey", {style_name}));
 }
+
+std::vector<std::string> diBRVBLib::number_format_sections(std::string_view format) const {
+    const automation::Value sections = call(String, "Sections", {format});
+    std::vector<std::string> texts;
+    if (const auto* array = sections.array()) {
+        for (const automation::Value& section : array->elements()) texts.push_back(to_text(section));
+    }
+    return texts;
+}
+
+std::int32_t diBRVBLib::closing_parenthesis(std::string_view expression) const {
+    return automation::to_integer(call(String, "ClosingParenthesis", {expression}));
+}
+
+bool diBRVBLib::version_at_least(std::string_view version, std::int32_t major) const {
+    return to_boolean(call(String, "VersionAtLeast", {version, major}));
+}
+
+std::optional<double> diBRVBLib::typed_number(std::string_view text) const {
+    if (!to_boolean(call(String, "IsNumeric", {text}))) return std::nullopt;
+    return automation::to_double(call(String, "Number", {text}));
+}
+
+bool diBRVBLib::check_numeric_field(std::string_view text, std::string_view field_name) const {
+    return to_boolean(call(String, "CheckNumericField", {text, field_name, product_title}));
+}
+
+std::string diBRVBLib::name_text(std::string_view text) const { return to_text(call(String, "NameText", {text})); }
 
 void diBRVBLib::place_window(std::int32_t placement) const { call(Screen, "Place", {0, placement}); }
 

@@ -2,10 +2,13 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "core/bridges/LibraryBridge.h"
+#include "core/bridges/Messages.h"
 
 namespace kestrune::core {
 
@@ -33,14 +36,39 @@ class diBRVBLib : public LibraryBridge {
 
     [[nodiscard]] std::string constant(std::int32_t index) const;
 
+    // The registry of hot keys: who is called under this client's name when a key is pressed, and the constant text
+    // of the product on whose behalf keys run.
+    void register_hot_keys(const automation::ObjectRef& callback) const;
+    void set_hot_key_product(std::string_view text) const;
+
+    // What the installation says: whether to show the examples workbook at this start, whether the tutorial is there,
+    // and any value by name ("LessonPath"), Empty when it is absent.
+    [[nodiscard]] bool shows_examples_at_start() const;
+    [[nodiscard]] bool allows_training() const;
+    [[nodiscard]] automation::Value machine_value(std::string_view name) const;
     // Before a command (false) and after it (true).
     void command_bracket(bool ended) const;
+    // A user message in English.
+    [[nodiscard]] std::string message(Text number) const;
 
     // A text of the library's string table: for command n 2000 + n its name, 12000 + n what it does, 22000 + n its
-    // group, 32000 + n its default key, 42000 + n its topic in the examples. Bad index when there is none.
+    // default key, 32000 + n its group, 42000 + n its topic in the examples; messages by their numbers. Bad index when
+    // there is none.
     [[nodiscard]] std::string text(std::int32_t number) const;
     // The key under which a style of this name stands in a collection.
     [[nodiscard]] std::string style_key(std::string_view style_name) const;
+    // The sections of a number format, parted by the ";" that are not quoted.
+    [[nodiscard]] std::vector<std::string> number_format_sections(std::string_view format) const;
+    // Where the ")" stands, from 1 on, that closes an expression whose "(" stands before it; 0 when nothing does.
+    [[nodiscard]] std::int32_t closing_parenthesis(std::string_view expression) const;
+    // Whether an application's version text is a major version or a later one.
+    [[nodiscard]] bool version_at_least(std::string_view version, std::int32_t major) const;
+    // The number that a person typed; nothing when it is none.
+    [[nodiscard]] std::optional<double> typed_number(std::string_view text) const;
+    // The same question for a dialog's box: when the answer is no, a message names the box ("start value").
+    [[nodiscard]] bool check_numeric_field(std::string_view text, std::string_view field_name) const;
+    // A text made fit to be part of a defined name.
+    [[nodiscard]] std::string name_text(std::string_view text) const;
 
     // Places the application window: 1 maximised, 2 top half, 3 bottom half, 4 left half, 5 right half, 6 centred.
     void place_window(std::int32_t placement) const;

@@ -14,20 +14,30 @@ namespace kestrune::brvblib {
 //   ShowExamples  Boolean  show the examples workbook at the next start; False when absent
 //   TT            Boolean  the tutorial is installed; True when absent
 //   LessonPath    text     the folder of the lesson workbooks
-class ProductSettings {
+// Windows keeps them in the registry, other systems in a file.
+class ProductStore {
   public:
-    ProductSettings() = default;
-    explicit ProductSettings(std::map<std::string, automation::Value, automation::TextLess> values)
-        : values_(std::move(values)) {}
+    virtual ~ProductStore() = default;
 
     // A value by its name, whatever its case; Empty when it is absent.
-    [[nodiscard]] automation::Value value(std::string_view name) const {
+    [[nodiscard]] virtual automation::Value value(std::string_view name) const = 0;
+};
+
+// Product values that the program which wires the library states itself.
+class StatedValues : public ProductStore {
+  public:
+    using Values = std::map<std::string, automation::Value, automation::TextLess>;
+
+    StatedValues() = default;
+    explicit StatedValues(Values values) : values_(std::move(values)) {}
+
+    [[nodiscard]] automation::Value value(std::string_view name) const override {
         const auto found = values_.find(name);
         return found == values_.end() ? automation::Value{} : found->second;
     }
 
   private:
-    std::map<std::string, automation::Value, automation::TextLess> values_;
+    Values values_;
 };
 
 }  // namespace kestrune::brvblib

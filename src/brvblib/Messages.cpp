@@ -1,0 +1,57 @@
+#include "brvblib/Messages.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kestrune::brvblib {
+namespace {
+
+struct Message {
+    std::int32_t number;
+    std::string_view text;
+};
+
+// In the order of the numbers. Texts to which a caller adds a name end where the name goes.
+// clang-format off
+constexpr auto messages = std::to_array<Message>({
+    // Start-up
+    {3021, "Your user preferences could not be read.  The default settings have been restored and saved in their place."},
+    {3025, "Unable to find the examples workbook.  Please reinstall Kestrune or contact technical support.  Missing file: "},
+    {3026, "Unable to find the product help.  Please reinstall Kestrune or contact technical support.  Missing file: "},
+    {3027, "The product help could not be opened: "},
+    // Smart Copy
+    {3040, "Smart Copy Right copies the cells of one column.  Please select cells in a single column and try again."},
+    {3041, "The selected cells are empty.  Please select at least one cell with contents to copy and try again."},
+    {3042, "No column label was found above the first selected cell.  Smart Copy Right copies to the columns that have a label in the row that labels the selected column."},
+    {3043, "Smart Copy Down copies the cells of one row.  Please select cells in a single row and try again."},
+    {3044, "No row label was found to the left of the first selected cell.  Smart Copy Down copies to the rows that have a label in the column that labels the selected row."},
+    // Preferences files
+    {3060, "The selected file is not a user preferences file, or it could not be read.  Your current settings have not been changed."},
+    {3061, "The user preferences have been successfully imported."},
+    // Fields of dialogs
+    {3110, "Please enter a number for the interval."},
+    {3111, "Please enter a number for the %1."},
+    // Styles
+    {3120, "Paintbrush "},  // and a counter: the names of captured styles
+    // Preferences files again
+    {3130, "Importing user preferences will replace all of your current settings, including your styles, SmartCycles and colors."},
+    {3131, "You can export your current settings first to be able to return to them.  Would you like to proceed?"},
+    {3132, "Your user preferences have been successfully exported."},
+    {3133, "Restoring the defaults will replace all of your current settings, including your styles, SmartCycles and colors.  Would you like to proceed?"},
+    {3134, "The default settings have been restored."},
+    // Tutorial
+    {3150, "The lesson workbook could not be opened.  Please check that the lesson files are installed in the lessons folder, or contact technical support."},
+});
+// clang-format on
+
+static_assert(std::ranges::is_sorted(messages, {}, &Message::number));
+
+}  // namespace
+
+std::optional<std::string_view> message_text(std::int32_t number) {
+    const auto found = std::ranges::lower_bound(messages, number, {}, &Message::number);
+    if (found == messages.end() || found->number != number) return std::nullopt;
+    return found->text;
+}
+
+}  // namespace kestrune::brvblib

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <memory>
+
+#include "automation/Trace.h"
+#include "brvblib/ProductStore.h"
+#include "forms/Presenter.h"
+
+namespace kestrune::brvblib {
+
+// What the library needs of the system that it runs on. The program that wires things together gives it.
+struct Services {
+    const automation::Trace& trace;  // outlives every object of the library
+    forms::Presenter& presenter;     // the same
+    std::shared_ptr<const ProductStore> products = std::make_shared<StatedValues>();
+};
+
+}  // namespace kestrune::brvblib

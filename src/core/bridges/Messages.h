@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+
+namespace kestrune::core {
+
+// The numbers of user messages in the general library's message table.
+enum class Text : std::int32_t {
+    PreferencesReplaced = 3021,
+    ExamplesNotFound = 3025,  // the file's name follows
+    RightNeedsOneColumn = 3040,
+    NothingToCopy = 3041,
+    NoColumnLabel = 3042,
+    DownNeedsOneRow = 3043,
+    NoRowLabel = 3044,
+    ImportFailed = 3060,
+    Imported = 3061,
+    IntervalIsNoNumber = 3110,
+    PaintbrushStem = 3120,  // a counter follows
+    ImportReplacesSettings = 3130,
+    ImportQuestion = 3131,
+    Exported = 3132,
+    RestoreQuestion = 3133,
+    Restored = 3134,
+    LessonNotOpened = 3150,
+};
+
+}  // namespace kestrune::core
