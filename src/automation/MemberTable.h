@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "automation/Conversion.h"
+#include "automation/MemberType.h"
 #include "automation/Object.h"
 #include "automation/Text.h"
 
@@ -40,6 +41,11 @@ struct Member {
     std::uint8_t required_count = 0;
     Thunk run = nullptr;  // the method or the property's reading
     Thunk set = nullptr;  // the property's writing; takes the parameters and the new value
+
+    // The functions' own types; parameter_types is empty where a row is made without a function's signature.
+    std::span<const MemberType> parameter_types;
+    MemberType result;     // of the method or the property's reading
+    MemberType new_value;  // that the property's writing takes last
 };
 
 namespace detail {
@@ -134,6 +140,8 @@ constexpr Member describe(std::string_view name, std::int32_t id, std::string_vi
         if (!parameter.optional) ++member.required_count;
     }
     check(FunctionShape<F>::arity == member.parameter_count);
+    member.parameter_types = ParameterTypes<typename FunctionShape<F>::Parameters>::value;
+    member.result = member_type<typename FunctionShape<F>::Result>();
     return member;
 }
 
@@ -158,8 +166,10 @@ template <auto Getter, auto Setter>
 consteval Member property(std::string_view name, std::int32_t id, std::string_view parameters = {}) {
     Member member = detail::describe<decltype(Getter)>(name, id, parameters);
     member.run = &detail::thunk<Getter>;
-    detail::check(detail::FunctionShape<decltype(Setter)>::arity == member.parameter_count + 1U);
+    using Written = typename detail::FunctionShape<decltype(Setter)>::Parameters;
+    detail::check(std::tuple_size_v<Written> == member.parameter_count + 1U);
     member.set = &detail::thunk<Setter>;
+    member.new_value = detail::ParameterTypes<Written>::value.back();
     return member;
 }
 

@@ -12,8 +12,8 @@ using automation::ObjectRef;
 
 iPublic::~iPublic() { shut_down(*shared_); }
 
-ObjectRef iPublic::new_public(const ObjectRef& application, const ObjectRef& workbook) {
-    ObjectRef self = shared_from_this();
+std::shared_ptr<iPublic> iPublic::new_public(const ObjectRef& application, const ObjectRef& workbook) {
+    auto self = std::static_pointer_cast<iPublic>(shared_from_this());
     if (opened_) return self;
     opened_ = true;
     shared_->application = application;
@@ -28,7 +28,7 @@ ObjectRef iPublic::new_public(const ObjectRef& application, const ObjectRef& wor
     return self;
 }
 
-ObjectRef iPublic::new_global() const {
+std::shared_ptr<iGlobal> iPublic::new_global() const {
     if (!opened_) return nullptr;
     return std::make_shared<iGlobal>(shared_);
 }

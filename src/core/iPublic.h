@@ -8,6 +8,8 @@
 
 namespace kestrune::core {
 
+class iGlobal;
+
 // The add-in's entry object, which the companion workbook creates when Excel starts.
 class iPublic : public automation::Served<iPublic> {
   public:
@@ -19,9 +21,10 @@ class iPublic : public automation::Served<iPublic> {
   private:
     // Loads the add-in into Excel's Application for its companion workbook; the object itself. Only the first call
     // does anything.
-    automation::ObjectRef new_public(const automation::ObjectRef& application, const automation::ObjectRef& workbook);
+    std::shared_ptr<iPublic> new_public(const automation::ObjectRef& application,
+                                        const automation::ObjectRef& workbook);
     // A command object of its own for every call; Nothing before NewPublic.
-    [[nodiscard]] automation::ObjectRef new_global() const;
+    [[nodiscard]] std::shared_ptr<iGlobal> new_global() const;
 
     std::shared_ptr<SharedState> shared_;
     bool opened_ = false;
