@@ -1,46 +1,39 @@
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <fstream>
 #include <map>
+#include <regex>
 #include <string>
 
 #include "excel/Application.h"
+#include "excel/PublishedModel.h"
 
 namespace kestrune::excel {
 namespace {
 
-// class TAB member -> kind TAB access TAB parameters, as Excel's reference lists them; for Application's Height and
-// Width, whose pages leave the writing out, as Excel's type library does.
-std::map<std::string, std::string> published_members() {
-    std::ifstream file(KESTRUNE_SOURCE_DIR "/tests/excel/object-model.tsv");
-    std::map<std::string, std::string> rows;
-    std::string line;
-    std::getline(file, line);
-    while (std::getline(file, line)) {
-        const std::size_t second_tab = line.find('\t', line.find('\t') + 1);
-        rows.emplace(line.substr(0, second_tab), line.substr(second_tab + 1));
-    }
-    return rows;
-}
-
-std::string described(const MemberRow& row) {
-    const std::string kind = row.access == Access::method    ? "method\t\t"
-                             : row.access == Access::get_put ? "property\tget put\t"
-                                                             : "property\tget\t";
-    return kind + std::string(row.parameters);
+published::Member described(const MemberRow& row) {
+    const bool method = row.access == Access::method;
+    return {method ? "method" : "property",
+            method                          ? ""
+            : row.access == Access::get_put ? "get put"
+                                            : "get",
+            std::string(row.parameters)};
 }
 
 // What a facade's list says otherwise than the reference; its calls are held to its list at compile time.
 template <class... Classes>
-std::vector<std::string> differences(const std::map<std::string, std::string>& published) {
+std::vector<std::string> differences(const std::map<std::string, published::Member>& published) {
     std::vector<std::string> found;
     const auto compare = [&](std::string_view class_name, const MemberRow& row) {
-        const std::string member = std::string(class_name) + "\t" + std::string(row.name);
-        const auto row_of_reference = published.find(member);
-        if (row_of_reference == published.end()) {
+        const std::string member = std::string(class_name) + "." + std::string(row.name);
+        const auto known = published.find(member);
+        if (known == published.end()) {
             found.push_back(member + " is not in the reference");
-        } else if (row_of_reference->second != described(row)) {
-            found.push_back(member + ": " + described(row) + " instead of " + row_of_reference->second);
+        } else if (const auto own = described(row); !(own == known->second)) {
+            const auto& [kind, access, parameters] = known->second;
+            found.push_back(member + ": " + own.kind + " " + own.access + " (" + own.parameters + ") instead of " +
+                            kind + " " + access + " (" + parameters + ")");
         }
     };
     (
@@ -52,11 +45,34 @@ std::vector<std::string> differences(const std::map<std::string, std::string>& p
 }
 
 TEST(ObjectModel, EveryMemberThatAFacadeCallsIsExcels) {
-    const auto published = published_members();
+    const auto published = published::members();
     ASSERT_GT(published.size(), 100U);
     EXPECT_THAT((differences<Application, Areas, Border, Borders, Font, FormatCondition, FormatConditions, Interior,
                              Name, Names, Range, Window, Workbook, Workbooks, Worksheet, Worksheets>(published)),
                 testing::IsEmpty());
+}
+
+// Every constant of Excel's and Office's that a source of ours gives a value.
+TEST(ObjectModel, EveryConstantHasExcelsValue) {
+    const auto published = published::constants();
+    const std::regex definition(R"(\b((?:xl|mso)[A-Z]\w*)\s*=\s*(-?\d+)\s*[;,])");
+    std::vector<std::string> wrong;
+    int found = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(KESTRUNE_SOURCE_DIR "/src")) {
+        if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
+        std::ifstream file(entry.path());
+        for (std::string line; std::getline(file, line);) {
+            for (std::sregex_iterator match(line.begin(), line.end(), definition), end; match != end; ++match) {
+                ++found;
+                const auto known = published.find((*match)[1]);
+                if (known == published.end() || !known->second.contains(std::stol((*match)[2]))) {
+                    wrong.push_back(entry.path().filename().string() + ": " + match->str());
+                }
+            }
+        }
+    }
+    EXPECT_GT(found, 100);
+    EXPECT_THAT(wrong, testing::IsEmpty());
 }
 
 // Answers 12 to everything and keeps the last call.

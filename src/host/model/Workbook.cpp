@@ -16,6 +16,15 @@ Sheet& Workbook::add_sheet(std::string sheet_name, SheetKind kind) {
     return *sheets_.emplace_back(std::make_unique<Sheet>(*this, std::move(sheet_name), kind));
 }
 
+Sheet& Workbook::insert_sheet(std::int32_t position, std::string sheet_name) {
+    auto fresh = std::make_unique<Sheet>(*this, std::move(sheet_name), SheetKind::Worksheet);
+    for (DefinedName& defined : names) {
+        if (defined.sheet && *defined.sheet >= position) ++*defined.sheet;
+    }
+    if (active_sheet >= position && !sheets_.empty()) ++active_sheet;
+    return **sheets_.insert(sheets_.begin() + position, std::move(fresh));
+}
+
 Sheet* Workbook::sheet(std::string_view sheet_name) const {
     for (const auto& sheet : sheets_)
         if (formula::equal_ignoring_case(sheet->name(), sheet_name)) return sheet.get();

@@ -62,6 +62,8 @@ class Workbook {
 
     [[nodiscard]] const std::vector<std::unique_ptr<Sheet>>& sheets() const { return sheets_; }
     Sheet& add_sheet(std::string sheet_name, SheetKind kind = SheetKind::Worksheet);
+    // At a 0-based position, up to the number of sheets; names and the active sheet stay with theirs.
+    Sheet& insert_sheet(std::int32_t position, std::string sheet_name);
     [[nodiscard]] Sheet* sheet(std::string_view sheet_name) const;  // whatever its case; null when there is none
 
     // What a colour looks like, BGR: theme and tint worked out, palette entries looked up.

@@ -1,5 +1,6 @@
 #include "host/objects/AreasObject.h"
 
+#include "host/objects/Items.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/Refusal.h"
 
@@ -15,11 +16,14 @@ ObjectRef AreasObject::item(std::int32_t index) const {
     return std::make_shared<RangeObject>(CellRange(session(), cells_.sheet(), {area}));
 }
 
+ObjectRef AreasObject::new_enum() const { return items_of(*this); }
+
 const MemberTable& AreasObject::members() {
     using A = AreasObject;
     static constexpr auto rows =
-        automation::member_rows(read_only<&A::item>("Item", 0, "Index"), read_only<&A::application>("Application", 1),
-                                read_only<&A::parent>("Parent", 2), read_only<&A::count>("Count", 3));
+        automation::member_rows(enumeration<&A::new_enum>(), read_only<&A::item>("Item", 0, "Index"),
+                                read_only<&A::application>("Application", 1), read_only<&A::parent>("Parent", 2),
+                                read_only<&A::count>("Count", 3));
     static constexpr MemberTable table("Areas", rows);
     return table;
 }

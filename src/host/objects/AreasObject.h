@@ -15,6 +15,7 @@ class AreasObject final : public HostObject<AreasObject> {
     [[nodiscard]] ObjectRef parent() const;
     [[nodiscard]] std::int32_t count() const;
     [[nodiscard]] ObjectRef item(std::int32_t index) const;
+    [[nodiscard]] ObjectRef new_enum() const;
 
   private:
     CellRange cells_;

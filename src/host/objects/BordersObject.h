@@ -14,6 +14,7 @@ class BordersObject final : public LinesObject<BordersObject> {
     [[nodiscard]] ObjectRef parent() const;
     [[nodiscard]] std::int32_t count() const { return 6; }   // the rim's four and the two inside
     [[nodiscard]] ObjectRef item(std::int32_t index) const;  // XlBordersIndex, 5 to 12
+    [[nodiscard]] ObjectRef new_enum() const;                // the six that are counted
 };
 
 }  // namespace kestrune::host

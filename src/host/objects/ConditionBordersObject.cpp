@@ -1,6 +1,7 @@
 #include "host/objects/ConditionBordersObject.h"
 
 #include "host/objects/FormatConditionObject.h"
+#include "host/objects/Items.h"
 
 namespace kestrune::host {
 namespace {
@@ -44,13 +45,19 @@ const MemberTable& ConditionBorderObject::members() {
     return table;
 }
 
+ObjectRef ConditionBordersObject::new_enum() const {
+    std::vector<Value> lines;
+    for (const std::int32_t index : {xlEdgeLeft, xlEdgeTop, xlEdgeBottom, xlEdgeRight}) lines.emplace_back(item(index));
+    return automation::enumerate(std::move(lines));
+}
+
 const MemberTable& ConditionBordersObject::members() {
     using B = ConditionBordersObject;
     static constexpr auto rows = automation::member_rows(
-        read_only<&B::item>("Item", 0, "Index"), read_only<&B::application>("Application", 1),
-        read_only<&B::parent>("Parent", 2), read_only<&B::count>("Count", 3),
-        property<&B::line_style, &B::set_line_style>("LineStyle", 4), property<&B::weight, &B::set_weight>("Weight", 5),
-        property<&B::color, &B::set_color>("Color", 6),
+        enumeration<&B::new_enum>(), read_only<&B::item>("Item", 0, "Index"),
+        read_only<&B::application>("Application", 1), read_only<&B::parent>("Parent", 2),
+        read_only<&B::count>("Count", 3), property<&B::line_style, &B::set_line_style>("LineStyle", 4),
+        property<&B::weight, &B::set_weight>("Weight", 5), property<&B::color, &B::set_color>("Color", 6),
         property<&B::color_index, &B::set_color_index>("ColorIndex", 7));
     static constexpr MemberTable table("Borders", rows);
     return table;

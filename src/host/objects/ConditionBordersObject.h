@@ -25,6 +25,7 @@ class ConditionBordersObject final : public ConditionLinesObject<ConditionBorder
     [[nodiscard]] ObjectRef parent() const;
     [[nodiscard]] std::int32_t count() const { return 4; }
     [[nodiscard]] ObjectRef item(std::int32_t index) const;  // xlLeft, xlTop, xlRight, xlBottom or their xlEdge...
+    [[nodiscard]] ObjectRef new_enum() const;
 };
 
 }  // namespace kestrune::host

@@ -67,6 +67,8 @@ inline constexpr std::int32_t xlNormal = -4143;
 inline constexpr std::int32_t xlCalculationManual = -4135;
 inline constexpr std::int32_t xlCalculationSemiautomatic = 2;
 
+inline constexpr std::int32_t xlWorksheet = -4167;
+
 inline constexpr std::int32_t xlSheetVisible = -1;
 inline constexpr std::int32_t xlSheetHidden = 0;
 inline constexpr std::int32_t xlSheetVeryHidden = 2;

@@ -4,6 +4,7 @@
 
 #include "host/objects/Conditions.h"
 #include "host/objects/FormatConditionObject.h"
+#include "host/objects/Items.h"
 #include "host/objects/RangeObject.h"
 
 namespace kestrune::host {
@@ -68,10 +69,12 @@ void FormatConditionsObject::remove() {
     cells_.changed();
 }
 
+ObjectRef FormatConditionsObject::new_enum() const { return items_of(*this); }
+
 const MemberTable& FormatConditionsObject::members() {
     using F = FormatConditionsObject;
     static constexpr auto rows = automation::member_rows(
-        method<&F::item>("Item", 0, "Index"), read_only<&F::application>("Application", 1),
+        enumeration<&F::new_enum>(), method<&F::item>("Item", 0, "Index"), read_only<&F::application>("Application", 1),
         read_only<&F::parent>("Parent", 2), read_only<&F::count>("Count", 3),
         method<&F::add>("Add", 4, "Type, [Operator], [Formula1], [Formula2]"), method<&F::remove>("Delete", 5));
     static constexpr MemberTable table("FormatConditions", rows);

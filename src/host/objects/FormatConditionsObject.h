@@ -15,6 +15,7 @@ class FormatConditionsObject final : public HostObject<FormatConditionsObject> {
     [[nodiscard]] ObjectRef parent() const;
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(priorities().size()); }
     [[nodiscard]] ObjectRef item(std::int32_t index) const;
+    [[nodiscard]] ObjectRef new_enum() const;
     // A rule for exactly these cells, behind all others. Relative references count from the active cell.
     ObjectRef add(std::int32_t type, const Value& operation, const Value& formula1, const Value& formula2);
     void remove();  // from these cells only

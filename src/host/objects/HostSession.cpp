@@ -65,7 +65,9 @@ Workbook& HostSession::add_workbook() {
     do fresh->name = "Book" + std::to_string(++added_);
     while (find(fresh->name));
     fresh->add_sheet("Sheet1");
-    return open(std::move(fresh));
+    Workbook& workbook = open(std::move(fresh));
+    opened(workbook).created = true;
+    return workbook;
 }
 
 void HostSession::close(const Workbook& workbook) {

@@ -40,6 +40,7 @@ struct OpenWorkbook {
     std::unique_ptr<StoredWorkbook> stored;  // its file, when it came from the session's store
     WindowPlace window{xlMaximized, {0, 0, 720, 405}};
     std::string caption;                      // empty: the workbook's name
+    bool created = false;                     // made by Workbooks.Add: no file knows it yet
     bool saved = true;                        // whether nothing has changed since it was opened or last called saved
     std::map<const Sheet*, Position> scroll;  // the top-left cell shown; A1 where absent
 };
@@ -106,7 +107,7 @@ class HostSession {
     std::string caption;  // empty: the application's name
     std::int32_t calculation = xlAutomatic;
     std::int32_t cut_copy_mode = 0;
-    std::int32_t cursor = xlDefaultCursor;
+    std::int32_t cursor = xlDefault;
     std::int32_t reference_style = xlA1;
     bool screen_updating = true;
     bool enable_events = true;
@@ -115,7 +116,7 @@ class HostSession {
     bool visible = true;
     automation::Value status_bar = false;  // false: Excel writes its own texts there
 
-    static constexpr std::int32_t xlDefaultCursor = -4143;
+    static constexpr std::int32_t xlDefault = -4143;
 
     // Counts a call for as long as it lasts; calls inside it are the host's own.
     class Entry {

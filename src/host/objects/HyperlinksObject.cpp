@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/objects/HyperlinkObject.h"
+#include "host/objects/Items.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/Refusal.h"
 #include "host/objects/SheetObject.h"
@@ -31,11 +32,14 @@ ObjectRef HyperlinksObject::item(std::int32_t index) const {
     return std::make_shared<HyperlinkObject>(session(), sheet_, *links[static_cast<std::size_t>(index - 1)]);
 }
 
+ObjectRef HyperlinksObject::new_enum() const { return items_of(*this); }
+
 const MemberTable& HyperlinksObject::members() {
     using H = HyperlinksObject;
     static constexpr auto rows =
-        automation::member_rows(read_only<&H::item>("Item", 0, "Index"), read_only<&H::application>("Application", 1),
-                                read_only<&H::parent>("Parent", 2), read_only<&H::count>("Count", 3));
+        automation::member_rows(enumeration<&H::new_enum>(), read_only<&H::item>("Item", 0, "Index"),
+                                read_only<&H::application>("Application", 1), read_only<&H::parent>("Parent", 2),
+                                read_only<&H::count>("Count", 3));
     static constexpr MemberTable table("Hyperlinks", rows);
     return table;
 }

@@ -21,6 +21,7 @@ class HyperlinksObject final : public HostObject<HyperlinksObject> {
     [[nodiscard]] ObjectRef parent() const;
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(list().size()); }
     [[nodiscard]] ObjectRef item(std::int32_t index) const;
+    [[nodiscard]] ObjectRef new_enum() const;
 
   private:
     [[nodiscard]] std::vector<const Hyperlink*> list() const;

@@ -2,6 +2,7 @@
 
 #include "formula/SheetName.h"
 #include "host/objects/DefinedNames.h"
+#include "host/objects/Items.h"
 #include "host/objects/NameObject.h"
 #include "host/objects/Optional.h"
 #include "host/objects/SheetObject.h"
@@ -95,11 +96,14 @@ ObjectRef NamesObject::add(const Value& name, const Value& refers_to, const Valu
     return object_of(fresh);
 }
 
+ObjectRef NamesObject::new_enum() const { return items_of(*this); }
+
 const MemberTable& NamesObject::members() {
     using N = NamesObject;
     static constexpr auto rows = automation::member_rows(
-        method<&N::item>("Item", 0, "[Index], [IndexLocal], [RefersTo]"), read_only<&N::application>("Application", 1),
-        read_only<&N::parent>("Parent", 2), read_only<&N::count>("Count", 3),
+        enumeration<&N::new_enum>(), method<&N::item>("Item", 0, "[Index], [IndexLocal], [RefersTo]"),
+        read_only<&N::application>("Application", 1), read_only<&N::parent>("Parent", 2),
+        read_only<&N::count>("Count", 3),
         method<&N::add>("Add", 4,
                         "[Name], [RefersTo], [Visible], [MacroType], [ShortcutKey], [Category], [NameLocal], "
                         "[RefersToLocal], [CategoryLocal], [RefersToR1C1], [RefersToR1C1Local]"));

@@ -16,6 +16,7 @@ class NamesObject final : public HostObject<NamesObject> {
     [[nodiscard]] ObjectRef parent() const;
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(list().size()); }
     [[nodiscard]] ObjectRef item(const Value& index, const Value& index_local, const Value& refers_to) const;
+    [[nodiscard]] ObjectRef new_enum() const;
     // A name that exists already in the same place is defined anew.
     ObjectRef add(const Value& name, const Value& refers_to, const Value& visible, const Value& macro_type,
                   const Value& shortcut_key, const Value& category, const Value& name_local,

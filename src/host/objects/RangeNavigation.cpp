@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "automation/Enumeration.h"
 #include "formula/Column.h"
 #include "formula/Selection.h"
 #include "host/objects/AreasObject.h"
@@ -38,10 +39,45 @@ std::int64_t column_number(std::string_view member, const Value& index) {
     return *column;
 }
 
+// How many parts For Each finds in an area.
+std::int64_t parts_of(const Area& area, RangeObject::Unit unit) {
+    if (unit == RangeObject::Unit::Rows) return area.rows();
+    if (unit == RangeObject::Unit::Columns) return area.columns();
+    return area.cells();
+}
+
 }  // namespace
 
 ObjectRef RangeObject::make(std::vector<Area> areas, Unit unit) const {
     return std::make_shared<RangeObject>(CellRange(session(), cells_.sheet(), std::move(areas)), unit);
+}
+
+ObjectRef RangeObject::new_enum() const {
+    std::int64_t parts = 0;
+    for (const Area& area : cells_.areas()) parts += parts_of(area, unit_);
+    return automation::enumerate(parts, [self = std::make_shared<const RangeObject>(cells_, unit_)](
+                                            std::int64_t position) { return self->part_at(position); });
+}
+
+ObjectRef RangeObject::part_at(std::int64_t position) const {
+    for (const Area& area : cells_.areas()) {
+        const std::int64_t parts = parts_of(area, unit_);
+        if (position >= parts) {
+            position -= parts;
+            continue;
+        }
+        Area part = area;
+        if (unit_ != Unit::Columns) {
+            const std::int64_t rows_down = unit_ == Unit::Rows ? position : position / area.columns();
+            part.first_row = part.last_row = area.first_row + static_cast<std::int32_t>(rows_down);
+        }
+        if (unit_ != Unit::Rows) {
+            const std::int64_t columns_right = unit_ == Unit::Columns ? position : position % area.columns();
+            part.first_column = part.last_column = area.first_column + static_cast<std::int32_t>(columns_right);
+        }
+        return make({part}, unit_);
+    }
+    refuse("Range._NewEnum", outside);
 }
 
 ObjectRef RangeObject::areas() const { return std::make_shared<AreasObject>(cells_); }

@@ -1,5 +1,6 @@
 #include "host/objects/RangeObject.h"
 
+#include "host/objects/Items.h"
 #include "host/objects/Refusal.h"
 
 namespace kestrune::host {
@@ -14,6 +15,7 @@ std::shared_ptr<RangeObject> range_argument(std::string_view member, const Value
 const MemberTable& RangeObject::members() {
     using R = RangeObject;
     static constexpr auto rows = automation::member_rows(
+        enumeration<&R::new_enum>(),
         property<&R::default_value, &R::set_default_value>("_Default", 0, "[RowIndex], [ColumnIndex]"),
         read_only<&R::application>("Application", 1), read_only<&R::worksheet>("Parent", 2),
         read_only<&R::worksheet>("Worksheet", 3),

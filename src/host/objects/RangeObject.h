@@ -36,6 +36,8 @@ class RangeObject final : public HostObject<RangeObject> {
     void activate();
 
     // Other ranges from it: RangeNavigation.cpp. What lies outside the sheet is error 1004.
+    // Its cells, row by row, area after area; of Rows and Columns the rows and columns.
+    [[nodiscard]] ObjectRef new_enum() const;
     [[nodiscard]] ObjectRef areas() const;
     [[nodiscard]] ObjectRef cells() const;
     [[nodiscard]] ObjectRef rows() const;
@@ -126,6 +128,7 @@ class RangeObject final : public HostObject<RangeObject> {
 
   private:
     [[nodiscard]] ObjectRef make(std::vector<Area> areas, Unit unit = Unit::Cells) const;
+    [[nodiscard]] ObjectRef part_at(std::int64_t position) const;
     [[nodiscard]] ObjectRef line_of_unit(const Value& index) const;
     template <class Read>
     [[nodiscard]] Value read_format(Read&& read) const {

@@ -1,5 +1,6 @@
 #include "host/objects/WindowsObject.h"
 
+#include "host/objects/Items.h"
 #include "host/objects/SheetObject.h"
 #include "host/objects/WindowObject.h"
 
@@ -33,11 +34,14 @@ ObjectRef WindowsObject::item(const Value& index) const {
     return std::make_shared<WindowObject>(session(), *windows[static_cast<std::size_t>(position - 1)]);
 }
 
+ObjectRef WindowsObject::new_enum() const { return items_of(*this); }
+
 const MemberTable& WindowsObject::members() {
     using W = WindowsObject;
     static constexpr auto rows =
-        automation::member_rows(read_only<&W::item>("Item", 0, "Index"), read_only<&W::application>("Application", 1),
-                                read_only<&W::parent>("Parent", 2), read_only<&W::count>("Count", 3));
+        automation::member_rows(enumeration<&W::new_enum>(), read_only<&W::item>("Item", 0, "Index"),
+                                read_only<&W::application>("Application", 1), read_only<&W::parent>("Parent", 2),
+                                read_only<&W::count>("Count", 3));
     static constexpr MemberTable table("Windows", rows);
     return table;
 }

@@ -15,6 +15,7 @@ class WindowsObject final : public HostObject<WindowsObject> {
     [[nodiscard]] ObjectRef parent() const;
     [[nodiscard]] std::int32_t count() const { return static_cast<std::int32_t>(list().size()); }
     [[nodiscard]] ObjectRef item(const Value& index) const;  // a number or a caption; otherwise error 9
+    [[nodiscard]] ObjectRef new_enum() const;
 
   private:
     [[nodiscard]] std::vector<OpenWorkbook*> list() const;

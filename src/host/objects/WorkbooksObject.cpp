@@ -1,5 +1,6 @@
 #include "host/objects/WorkbooksObject.h"
 
+#include "host/objects/Items.h"
 #include "host/objects/ManyArguments.h"
 #include "host/objects/SheetObject.h"
 
@@ -38,12 +39,15 @@ ObjectRef WorkbooksObject::open(std::span<const Value> arguments) {
     return workbook_object(session(), session().open_file(automation::to_text(file)));
 }
 
+ObjectRef WorkbooksObject::new_enum() const { return items_of(*this); }
+
 const MemberTable& WorkbooksObject::members() {
     using W = WorkbooksObject;
     static constexpr auto rows =
-        automation::member_rows(read_only<&W::item>("Item", 0, "Index"), read_only<&W::application>("Application", 1),
-                                read_only<&W::application>("Parent", 2), read_only<&W::count>("Count", 3),
-                                method<&W::add>("Add", 4, "[Template]"), of_many<&W::open>("Open", 5, open_parameters));
+        automation::member_rows(enumeration<&W::new_enum>(), read_only<&W::item>("Item", 0, "Index"),
+                                read_only<&W::application>("Application", 1), read_only<&W::application>("Parent", 2),
+                                read_only<&W::count>("Count", 3), method<&W::add>("Add", 4, "[Template]"),
+                                of_many<&W::open>("Open", 5, open_parameters));
     static constexpr MemberTable table("Workbooks", rows);
     return table;
 }

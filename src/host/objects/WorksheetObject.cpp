@@ -4,6 +4,7 @@
 
 #include "host/objects/HyperlinksObject.h"
 #include "host/objects/NamesObject.h"
+#include "host/objects/Optional.h"
 #include "host/objects/OutlineObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/RangeReference.h"
@@ -77,6 +78,44 @@ void WorksheetObject::set_visible(const Value& visibility) {
     session().changed(workbook);
 }
 
+// The host writes no protection into a file, so it must not pretend to: what is saved would not have it.
+void WorksheetObject::require_protection_allowed(std::string_view member) const {
+    if (!session().opened(sheet().workbook()).created) {
+        refuse(member, "the host does not change the protection of a sheet that comes from a file");
+    }
+}
+
+void WorksheetObject::protect(const Value& password, const Value&, const Value& contents, const Value&,
+                              const Value& user_interface_only, const Value& cells, const Value& columns,
+                              const Value& rows, const Value& insert_columns, const Value& insert_rows, const Value&,
+                              const Value& delete_columns, const Value& delete_rows, const Value&, const Value&,
+                              const Value&) {
+    require_protection_allowed("Worksheet.Protect");
+    SheetProtection fresh;
+    // Protection of the user interface only leaves macros, and so every caller of the object model, alone.
+    fresh.on = value_or(contents, true) && !value_or(user_interface_only, false);
+    fresh.password = value_or(password, std::string());
+    fresh.format_cells = value_or(cells, false);
+    fresh.format_columns = value_or(columns, false);
+    fresh.format_rows = value_or(rows, false);
+    fresh.insert_columns = value_or(insert_columns, false);
+    fresh.insert_rows = value_or(insert_rows, false);
+    fresh.delete_columns = value_or(delete_columns, false);
+    fresh.delete_rows = value_or(delete_rows, false);
+    sheet().protection() = fresh;
+    session().changed(sheet().workbook());
+}
+
+void WorksheetObject::unprotect(const Value& password) {
+    if (!sheet().protection().on) return;
+    require_protection_allowed("Worksheet.Unprotect");
+    if (sheet().protection().password != value_or(password, std::string())) {
+        refuse("Worksheet.Unprotect", "the password is not correct");
+    }
+    sheet().protection() = {};
+    session().changed(sheet().workbook());
+}
+
 const MemberTable& WorksheetObject::members() {
     using W = WorksheetObject;
     static constexpr auto rows = automation::member_rows(
@@ -90,7 +129,14 @@ const MemberTable& WorksheetObject::members() {
         read_only<&W::standard_height>("StandardHeight", 14), method<&W::activate>("Activate", 15),
         method<&W::select>("Select", 16, "[Replace]"), read_only<&W::protect_contents>("ProtectContents", 17),
         read_only<&W::next>("Next", 18), read_only<&W::previous>("Previous", 19),
-        read_only<&W::hyperlinks>("Hyperlinks", 20));
+        read_only<&W::hyperlinks>("Hyperlinks", 20),
+        method<&W::protect>("Protect", 21,
+                            "[Password], [DrawingObjects], [Contents], [Scenarios], [UserInterfaceOnly], "
+                            "[AllowFormattingCells], [AllowFormattingColumns], [AllowFormattingRows], "
+                            "[AllowInsertingColumns], [AllowInsertingRows], [AllowInsertingHyperlinks], "
+                            "[AllowDeletingColumns], [AllowDeletingRows], [AllowSorting], [AllowFiltering], "
+                            "[AllowUsingPivotTables]"),
+        method<&W::unprotect>("Unprotect", 22, "[Password]"));
     static constexpr MemberTable table("Worksheet", rows);
     return table;
 }
