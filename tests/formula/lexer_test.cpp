@@ -12,19 +12,10 @@
 #include "formula/Listing.h"
 #include "formula/Selection.h"
 #include "formula/Shift.h"
+#include "formula/TokenLetters.h"
 
 namespace kestrune::formula {
 namespace {
-
-// One letter a token, in the order of TokenKind.
-std::string kinds(std::string_view formula, Notation notation = Notation::a1) {
-    constexpr std::string_view letters = "=_nsbertNf(){},;pBPRI!";
-    std::string out;
-    Lexer lexer(formula, notation);
-    for (Token token = lexer.next(); token.kind != TokenKind::end; token = lexer.next())
-        out += letters[static_cast<std::size_t>(token.kind)];
-    return out;
-}
 
 TEST(Lexer, CutsFormulas) {
     struct Case {
@@ -57,9 +48,9 @@ TEST(Lexer, CutsFormulas) {
         {"Sheet1! A1", "!Ir"},
         {"a?\x01$", "N!!"},
     };
-    for (const auto& [formula, expected] : cases) EXPECT_EQ(kinds(formula), expected) << formula;
-    EXPECT_EQ(kinds("R[-1]C:RC[2]+R1C1+C+R5:R[2]+RATE(R)+Table1[R]+ROC", Notation::r1c1), "rBrBrBrBf(r)BtBN");
-    EXPECT_EQ(kinds("S!R1C1+R[1048576]C+R0C1+A1", Notation::r1c1), "rBtrBNBN");
+    for (const auto& [formula, expected] : cases) EXPECT_EQ(token_letters(formula), expected) << formula;
+    EXPECT_EQ(token_letters("R[-1]C:RC[2]+R1C1+C+R5:R[2]+RATE(R)+Table1[R]+ROC", Notation::r1c1), "rBrBrBrBf(r)BtBN");
+    EXPECT_EQ(token_letters("S!R1C1+R[1048576]C+R0C1+A1", Notation::r1c1), "rBtrBNBN");
 }
 
 TEST(Lexer, TokensCoverEveryByteOnce) {

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+// What the fuzzers feed with arbitrary bytes. A target throws Broken when a promise does not hold; crashes and what the
+// sanitizers find count as well. fuzz/libfuzzer.cpp runs one of them, tests/fuzz all of them over the stored inputs.
+namespace kestrune::fuzz {
+
+class Broken : public std::logic_error {
+  public:
+    using std::logic_error::logic_error;
+};
+
+void formula(std::string_view text);
+
+struct Target {
+    std::string_view name;  // also of its folder below fuzz/corpus
+    void (*run)(std::string_view input);
+};
+inline constexpr Target targets[] = {{"formula", formula}};
+
+}  // namespace kestrune::fuzz
