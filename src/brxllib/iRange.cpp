@@ -1,6 +1,7 @@
 #include "brxllib/iRange.h"
 
 #include "brxllib/ContentKind.h"
+#include "brxllib/Links.h"
 #include "excel/Worksheet.h"
 
 namespace kestrune::brxllib {
@@ -28,9 +29,18 @@ ObjectRef iRange::in_use(const ObjectRef& object) const {
     return library_->application.Intersect(range, range.Worksheet().UsedRange()).object();
 }
 
+Value iRange::precedents(const ObjectRef& cell) const {
+    return array_of(brxllib::precedents(library_->application, excel::Range(cell)));
+}
+
+Value iRange::dependents(const ObjectRef& cell) const {
+    return array_of(brxllib::dependents(library_->application, excel::Range(cell)));
+}
+
 const MemberTable& iRange::members() {
-    static constexpr auto rows = automation::member_rows(method<&iRange::content_kind>("ContentKind", 1, "Range"),
-                                                         method<&iRange::in_use>("InUse", 2, "Range"));
+    static constexpr auto rows = automation::member_rows(
+        method<&iRange::content_kind>("ContentKind", 1, "Range"), method<&iRange::in_use>("InUse", 2, "Range"),
+        method<&iRange::precedents>("Precedents", 3, "Cell"), method<&iRange::dependents>("Dependents", 4, "Cell"));
     static constexpr MemberTable table("iRange", rows);
     return table;
 }

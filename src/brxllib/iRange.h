@@ -20,6 +20,10 @@ class iRange : public automation::Served<iRange> {
     // The part of a range that lies in its sheet's used range, or Nothing.
     [[nodiscard]] automation::ObjectRef in_use(const automation::ObjectRef& range) const;
 
+    // The references from and to a cell: arrays of rows as Links.h has them.
+    [[nodiscard]] automation::Value precedents(const automation::ObjectRef& cell) const;
+    [[nodiscard]] automation::Value dependents(const automation::ObjectRef& cell) const;
+
     std::shared_ptr<Library> library_;
 };
 

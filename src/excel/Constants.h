@@ -69,6 +69,9 @@ inline constexpr std::int32_t xlNormal = -4143;
 // XlSheetVisibility
 inline constexpr std::int32_t xlSheetVisible = -1;
 
+// XlLink
+inline constexpr std::int32_t xlExcelLinks = 1;
+
 // XlReferenceStyle
 inline constexpr std::int32_t xlA1 = 1;
 

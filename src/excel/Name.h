@@ -15,6 +15,7 @@ class Name : public Facade<Name> {
         {"Delete", Access::method},
         {"Name", Access::get_put},
         {"RefersTo", Access::get_put},
+        {"RefersToR1C1", Access::get_put},
         {"RefersToRange", Access::get},
         {"Visible", Access::get_put},
     });
@@ -27,6 +28,8 @@ class Name : public Facade<Name> {
     void rename(std::string_view name) const { put("Name", name); }
     [[nodiscard]] std::string RefersTo() const { return get<std::string>("RefersTo"); }  // "=Sheet1!$A$1"
     void RefersTo(std::string_view formula) const { put("RefersTo", formula); }
+    // Relative references count from the cell that uses the name.
+    [[nodiscard]] std::string RefersToR1C1() const { return get<std::string>("RefersToR1C1"); }
     // Fails for a name that stands for no range.
     [[nodiscard]] ObjectRef RefersToRange() const { return get<ObjectRef>("RefersToRange"); }
     [[nodiscard]] bool Visible() const { return get<bool>("Visible"); }

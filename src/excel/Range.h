@@ -53,6 +53,7 @@ class Range : public Facade<Range> {
         {"Rows", Access::get},
         {"Select", Access::method},
         {"ShrinkToFit", Access::get_put},
+        {"SpillParent", Access::get},
         {"Text", Access::get},
         {"Value", Access::get_put, "RangeValueDataType"},
         {"Value2", Access::get_put},
@@ -125,6 +126,8 @@ class Range : public Facade<Range> {
     void Select() const { call("Select"); }
     [[nodiscard]] excel::Value ShrinkToFit() const { return get("ShrinkToFit"); }
     void ShrinkToFit(excel::Value value) const { put("ShrinkToFit", std::move(value)); }
+    // The cell whose formula spills into this one; Nothing or a failure when none does.
+    [[nodiscard]] Range SpillParent() const { return get<Range>("SpillParent"); }
     [[nodiscard]] excel::Value Text() const { return get("Text"); }    // as the sheet shows it
     [[nodiscard]] excel::Value Value() const { return get("Value"); }  // a 2-D array for several cells
     void Value(excel::Value value) const { put("Value", std::move(value)); }

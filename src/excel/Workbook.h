@@ -17,6 +17,7 @@ class Workbook : public Facade<Workbook> {
         {"ActiveSheet", Access::get},
         {"Colors", Access::get_put, "Index"},
         {"FullName", Access::get},
+        {"LinkSources", Access::method, "Type"},
         {"Name", Access::get},
         {"Names", Access::get},
         {"Path", Access::get},
@@ -35,6 +36,8 @@ class Workbook : public Facade<Workbook> {
     [[nodiscard]] std::int32_t Colors(Value index) const { return get<std::int32_t>("Colors", std::move(index)); }
     void Colors(std::int32_t index, std::int32_t color) const { put_at("Colors", index, color); }
     [[nodiscard]] std::string FullName() const { return get<std::string>("FullName"); }
+    // The workbooks that it links to, as paths (an array), or Empty; type: xlExcelLinks.
+    [[nodiscard]] Value LinkSources(std::int32_t type) const { return call("LinkSources", type); }
     [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
     [[nodiscard]] excel::Names Names() const { return get<excel::Names>("Names"); }
     [[nodiscard]] std::string Path() const { return get<std::string>("Path"); }

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "excel/ListObjects.h"
 #include "excel/Names.h"
 #include "excel/Range.h"
 
@@ -18,6 +19,7 @@ class Worksheet : public Facade<Worksheet> {
         {"Activate", Access::method},
         {"Cells", Access::get},
         {"Index", Access::get},
+        {"ListObjects", Access::get},
         {"Name", Access::get_put},
         {"Names", Access::get},
         {"Parent", Access::get},
@@ -35,6 +37,7 @@ class Worksheet : public Facade<Worksheet> {
     void Activate() const { call("Activate"); }
     [[nodiscard]] excel::Range Cells() const { return get<excel::Range>("Cells"); }
     [[nodiscard]] std::int32_t Index() const { return get<std::int32_t>("Index"); }  // from 1
+    [[nodiscard]] excel::ListObjects ListObjects() const { return get<excel::ListObjects>("ListObjects"); }
     [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
     void Name(std::string_view name) const { put("Name", name); }
     [[nodiscard]] excel::Names Names() const { return get<excel::Names>("Names"); }

@@ -6,6 +6,27 @@ namespace kestrune::core {
 
 using automation::ObjectRef;
 
+namespace {
+
+std::vector<CellLink> links_of(const automation::Value& answer) {
+    constexpr std::size_t columns = 9;
+    const automation::Array* array = answer.array();
+    if (!array || array->dimensions() != 2 || array->elements().size() % columns != 0) {
+        throw automation::AutomationError(automation::hresult::type_mismatch, "the list of references",
+                                          "is not a table of 9 columns");
+    }
+    std::vector<CellLink> links;
+    const auto& cells = array->elements();
+    for (std::size_t row = 0; row < cells.size(); row += columns) {
+        const auto text = [&](std::size_t column) { return automation::to_text(cells[row + column]); };
+        const auto number = [&](std::size_t column) { return automation::to_integer(cells[row + column]); };
+        links.push_back({text(0), text(1), text(2), text(3), text(4), text(5), number(6), number(7), text(8)});
+    }
+    return links;
+}
+
+}  // namespace
+
 void diBRXLLib::set_application(const automation::ObjectRef& application) const {
     automation::call(automation::to_required_object(iPublic()), "SetApplication", {application});
 }
@@ -32,6 +53,14 @@ std::vector<std::int32_t> diBRXLLib::content_kinds(const ObjectRef& range) const
 
 ObjectRef diBRXLLib::in_use(const ObjectRef& range) const {
     return automation::to_object(call(Range, "InUse", {range}));
+}
+
+std::vector<CellLink> diBRXLLib::precedents(const ObjectRef& cell) const {
+    return links_of(call(Range, "Precedents", {cell}));
+}
+
+std::vector<CellLink> diBRXLLib::dependents(const ObjectRef& cell) const {
+    return links_of(call(Range, "Dependents", {cell}));
 }
 
 ObjectRef diBRXLLib::row_label(const ObjectRef& cell) const {

@@ -10,6 +10,19 @@
 
 namespace kestrune::core {
 
+// One reference between two cells, seen from one of them.
+struct CellLink {
+    std::string text;           // the reference as the formula writes it
+    std::string workbook;       // the other end's workbook, its file name
+    std::string folder;         // of that workbook; empty when it was never saved, or the formula does not tell
+    std::string sheet;          // of the other end
+    std::string address;        // "$A$1:$B$2"
+    std::string through;        // the defined name or table that stands for the cells; else empty
+    std::int32_t position = 1;  // of the text in the formula, and its length, in characters as Visual Basic counts
+    std::int32_t length = 0;
+    std::string formula;  // the cell's own for precedents, the other end's for dependents
+};
+
 // The spreadsheet library: what workbooks, sheets, cells and formulas hold. The typed calls fail as automation calls
 // do.
 class diBRXLLib : public LibraryBridge {
@@ -43,6 +56,11 @@ class diBRXLLib : public LibraryBridge {
     [[nodiscard]] std::vector<std::int32_t> content_kinds(const automation::ObjectRef& range) const;
     // The part of a range that lies in its sheet's used range, or Nothing.
     [[nodiscard]] automation::ObjectRef in_use(const automation::ObjectRef& range) const;
+
+    // The cells that a cell's formula refers to, in the order of its text.
+    [[nodiscard]] std::vector<CellLink> precedents(const automation::ObjectRef& cell) const;
+    // The cells of all open workbooks whose formulas refer to a cell, its own sheet's first.
+    [[nodiscard]] std::vector<CellLink> dependents(const automation::ObjectRef& cell) const;
 
     // The cell whose text labels a cell's row (at its left) or column (above it), or Nothing.
     [[nodiscard]] automation::ObjectRef row_label(const automation::ObjectRef& cell) const;
