@@ -4,7 +4,6 @@
 
 #include "automation/AutomationError.h"
 #include "automation/Events.h"
-#include "windows/com/Collection.h"
 #include "windows/com/ConnectionPoints.h"
 #include "windows/com/ErrorInfo.h"
 #include "windows/com/IncomingCall.h"
@@ -23,7 +22,6 @@ using automation::Value;
 using automation::WrongCall;
 
 constexpr WORD known_flags = DISPATCH_METHOD | DISPATCH_PROPERTYGET | DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF;
-constexpr std::string_view new_enum = "_NewEnum";
 
 }  // namespace
 
@@ -114,8 +112,8 @@ HRESULT ComServer::GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, L
 DISPID ComServer::id_of(std::string_view name) {
     if (name.empty()) return DISPID_VALUE;
     if (table_) {
-        if (const Member* member = table_->find(name)) return member->id;
-        return automation::same_text(name, new_enum) && is_collection(*table_) ? DISPID_NEWENUM : DISPID_UNKNOWN;
+        const Member* member = table_->find(name);
+        return member ? member->id : DISPID_UNKNOWN;
     }
     const auto known = std::ranges::find_if(names_, [&](const auto& n) { return automation::same_text(n, name); });
     const auto place = static_cast<DISPID>(known - names_.begin());
@@ -153,10 +151,6 @@ HRESULT ComServer::Invoke(DISPID id, REFIID reserved, LCID, WORD flags, DISPPARA
     const ObjectRef object = object_;
     IncomingCall call(*parameters);
     try {
-        if (id == DISPID_NEWENUM && table_ && is_collection(*table_)) {
-            if (result) *result = enumerate(object).release();
-            return S_OK;
-        }
         const std::string name(name_of(id));
         const auto kind = static_cast<Call>(flags & known_flags);
         const auto named = [&](DISPID argument) -> IncomingCall::Named {

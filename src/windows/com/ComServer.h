@@ -20,7 +20,7 @@ class ConnectionPoints;
 
 // One of our objects, served over IDispatch. Members have the identifiers of the class's member table, named arguments
 // the places of the parameters; an object without a table gets identifiers for names as they are asked for. Objects
-// that can be counted through answer _NewEnum, and those that raise events are connectable.
+// that raise events are connectable.
 class ComServer final : public IDispatch, public ISupportErrorInfo {
   public:
     // Begins with one reference, the maker's.

@@ -7,6 +7,7 @@
 #include "automation/AutomationError.h"
 #include "windows/com/ComClient.h"
 #include "windows/com/ComServer.h"
+#include "windows/com/Enumerators.h"
 
 namespace kestrune::windows {
 namespace {
@@ -40,6 +41,8 @@ ObjectRef object_of(IDispatch* object) {
 ObjectRef object_of(IUnknown* object) {
     if (!object) return nullptr;
     ComPtr<IDispatch> dispatch;
+    ComPtr<IEnumVARIANT> items;
+    if (SUCCEEDED(object->QueryInterface(IID_PPV_ARGS(&items)))) return enumeration_of(items);
     if (FAILED(object->QueryInterface(IID_PPV_ARGS(&dispatch)))) {
         throw automation::AutomationError(automation::hresult::type_mismatch, "conversion",
                                           "the object has no automation interface");

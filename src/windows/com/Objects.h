@@ -11,8 +11,8 @@
 
 namespace kestrune::windows {
 
-// The object behind an interface: one of this module's own as itself, any other as a ComClient; Nothing for null.
-// Fails with type-mismatch for an object without IDispatch.
+// The object behind an interface: one of this module's own as itself, any other as a ComClient, what For Each asks for
+// as an Enumeration; Nothing for null. Fails with type-mismatch for an object without IDispatch.
 automation::ObjectRef object_of(IUnknown* object);
 automation::ObjectRef object_of(IDispatch* object);
 

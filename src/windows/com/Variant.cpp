@@ -10,6 +10,7 @@
 #include <type_traits>
 
 #include "automation/AutomationError.h"
+#include "windows/com/Enumerators.h"
 #include "windows/com/Failure.h"
 #include "windows/com/Objects.h"
 #include "windows/com/Payload.h"
@@ -129,6 +130,11 @@ struct Writer {
         V_VT(&v) = VT_BSTR;
     }
     void operator()(const ObjectRef& object) const {
+        if (auto items = std::dynamic_pointer_cast<automation::Enumeration>(object)) {
+            V_UNKNOWN(&v) = enumerator_of(std::move(items)).Detach();
+            V_VT(&v) = VT_UNKNOWN;
+            return;
+        }
         V_DISPATCH(&v) = dispatch_of(object).Detach();
         V_VT(&v) = VT_DISPATCH;
     }

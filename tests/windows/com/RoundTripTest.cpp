@@ -184,6 +184,18 @@ TEST_F(RoundTrip, FailuresKeepTheirCodeAndText) {
     EXPECT_THROW(client->invoke("Fail", Call::Method, out_of_memory), std::bad_alloc);
 }
 
+TEST_F(RoundTrip, CollectionsAreGoneThrough) {
+    EXPECT_THAT(automation::items(*client), testing::ElementsAre(Value("item 1"), Value("item 2"), Value("item 3")));
+    const Value answer = get(*client, "_newenum");
+    const auto items = std::dynamic_pointer_cast<automation::Enumeration>(*answer.if_is<ObjectRef>());
+    ASSERT_TRUE(items);
+    items->next();
+    const auto copy = items->clone();
+    items->reset();
+    EXPECT_EQ(copy->next(), Value("item 2"));
+    EXPECT_EQ(items->next(), Value("item 1"));
+}
+
 TEST_F(RoundTrip, TellsItsTypesName) { EXPECT_EQ(client->type_name(), "Sample"); }
 
 TEST_F(RoundTrip, ObjectsWithoutATableTakeNamesAsTheyCome) {

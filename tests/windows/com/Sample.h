@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "automation/Enumeration.h"
 #include "automation/Events.h"
 #include "automation/MemberTable.h"
 
@@ -22,6 +23,7 @@ class Sample final : public automation::Served<Sample> {
         using automation::property;
         using automation::read_only;
         static constexpr auto rows = automation::member_rows(
+            read_only<&Sample::items>(automation::enumeration_member, automation::enumeration_id),
             property<&Sample::item, &Sample::set_item>("Item", 0, "Index, [Column]"),
             property<&Sample::held, &Sample::set_held>("Held", 1), method<&Sample::echo>("Echo", 2, "What"),
             method<&Sample::list>("List", 3, "First, [Second], [Third]"),
@@ -73,6 +75,10 @@ class Sample final : public automation::Served<Sample> {
     }
     double add(double left, double right) { return left + right; }
     std::int32_t count() const { return 3; }
+    ObjectRef items() const {
+        return automation::enumerate(
+            3, [this](std::int64_t at) { return item(static_cast<std::int32_t>(at) + 1, automation::Missing{}); });
+    }
     ObjectRef self() { return shared_from_this(); }
     void keep(const ObjectRef& object) { held_ = object; }
 
