@@ -112,7 +112,7 @@ const std::array<CommandText, 103> command_texts{{
     {"Place Window", "Places Excel's window: maximized, in one half of the screen, or in its center.", "", "View", "View"},  // 99
     {"Remove Unused Number Formats", "Removes the custom number formats that no cell of the active workbook uses.", "", "Optimization", "Optimization"},  // 100
     {"Remove Invalid Range Names", "Removes the names of the active workbook whose references are no longer valid.", "", "Optimization", "Optimization"},  // 101
-    {"Toggle AutoColor", "Switches coloring of cells as they are entered on or off.", "", "AutoColor", "AutoColor"},  // 102
+    {"AutoColor Worksheet", "Colors the cells of the active worksheet by what they hold: inputs, formulas and links.", "", "AutoColor", "AutoColor"},  // 102
 }};
 // clang-format on
 

@@ -23,6 +23,8 @@ struct Library {
     excel::Application application;  // Nothing until a client hands it over
     std::map<std::string, Client, automation::TextLess> clients;
     Surroundings around;
+    // What clients gave the library to call back, by the clients' names.
+    std::map<std::string, automation::ObjectRef, automation::TextLess> callbacks{};
 };
 
 }  // namespace kestrune::brxllib

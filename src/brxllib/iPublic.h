@@ -6,6 +6,7 @@
 
 #include "automation/MemberTable.h"
 #include "brxllib/Library.h"
+#include "brxllib/iAutoColor.h"
 
 namespace kestrune::brxllib {
 
@@ -16,19 +17,21 @@ class iPublic : public automation::Served<iPublic> {
     static const automation::MemberTable& members();
 
   private:
-    enum Part : std::size_t { Const, Display, Formula, Product, Range, Workbook, Worksheet, parts };
+    enum Part : std::size_t { Const, Display, Formula, Product, Range, UndoRedo, Workbook, Worksheet, parts };
 
     // The Excel application that the library works in.
     void set_application(const automation::ObjectRef& application);
     // Whether the client was registered. With its last client the library lets go of the application.
     bool unregister_client(const std::string& client_name);
 
+    [[nodiscard]] automation::ObjectRef auto_color() const { return auto_color_; }
     template <Part part>
     [[nodiscard]] automation::ObjectRef object() const {
         return objects_[part];
     }
 
     std::shared_ptr<Library> library_;
+    std::shared_ptr<iAutoColor> auto_color_;
     std::array<automation::ObjectRef, parts> objects_;
 };
 

@@ -5,6 +5,7 @@
 #include "automation/Conversion.h"
 #include "automation/ResumeNext.h"
 #include "core/WindowCommands.h"
+#include "settings/AutoColorCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
@@ -38,7 +39,7 @@ constexpr std::array<Command, 103> table{{
     {12, later, plain, lasting},  // Remove Bookmarks
     {13, later, plain, lasting},  // Next Worksheet
     {14, later, plain, lasting},  // Previous Worksheet
-    {15, later, plain, lasting},  // AutoColor Selection
+    {15, &settings::auto_color_selection, plain, lasting},  // AutoColor Selection
     {16, later, plain, lasting},  // Apply Sheet Style
     {17, later, plain, lasting},  // Capture BR Paintbrush
     {18, later, plain, undoable},  // Apply BR Paintbrush
@@ -116,7 +117,7 @@ constexpr std::array<Command, 103> table{{
     {90, maximise_window, plain, lasting},  // Maximize Window
     {91, later, plain, lasting},  // First Worksheet
     {92, later, plain, lasting},  // Last Worksheet
-    {93, later, plain, lasting},  // AutoColor Workbook
+    {93, &settings::auto_color_workbook, plain, lasting},  // AutoColor Workbook
     {94, later, plain, undoable},  // Clear Formats
     {95, later, plain, undoable},  // Toggle Shrink to Fit
     {96, later, plain, undoable},  // Toggle Wrap Text
@@ -125,7 +126,7 @@ constexpr std::array<Command, 103> table{{
     {99, place_window, parameter, lasting},  // Place Window
     {100, later, plain, lasting},  // Remove Unused Number Formats
     {101, later, plain, lasting},  // Remove Invalid Range Names
-    {102, later, plain, lasting},  // Toggle AutoColor
+    {102, &settings::auto_color_worksheet, plain, lasting},  // AutoColor Worksheet
 }};
 // clang-format on
 

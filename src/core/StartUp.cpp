@@ -3,6 +3,7 @@
 #include "automation/ResumeNext.h"
 #include "core/bridges/Product.h"
 #include "forms/MsgBox.h"
+#include "settings/AutoColorCommands.h"
 #include "settings/cUserSettings.h"
 
 namespace kestrune::core {
@@ -24,7 +25,10 @@ bool start_up(SharedState& shared) {
     }
     const automation::ResumeNext attempt(shared.trace);
     shared.user_settings = std::make_shared<settings::cUserSettings>();
-    attempt([&] { shared.user_settings->LoadDefaults(); });
+    AutoColorSettings auto_color;
+    attempt.assign(auto_color, [&] { return shared.spreadsheet().auto_color_defaults(); });
+    attempt([&] { shared.user_settings->LoadDefaults(auto_color); });
+    settings::hand_over_auto_color(shared);
     shared.command_collection = std::make_unique<std::vector<automation::Value>>();
     shared.counter = 0;
     return true;

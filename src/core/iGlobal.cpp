@@ -2,6 +2,7 @@
 
 #include "core/Dispatcher.h"
 #include "core/iGlobalInterface.h"
+#include "settings/AutoColorCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
@@ -29,8 +30,20 @@ void iGlobal::apply_smart_cycle_style(std::int32_t cycle, std::int32_t position,
     styles::ApplySmartCycleStyle(*shared, cycle, position, range);
 }
 
+void iGlobal::toggle_auto_color() const {
+    const auto shared = shared_;
+    settings::toggle_auto_color(*shared);
+}
+
+void iGlobal::run_auto_color() const {
+    const auto shared = shared_;
+    settings::auto_color_selection(*shared, 0);
+}
+
 const MemberTable& iGlobal::members() {
     static constexpr auto rows = automation::member_rows(
+        automation::method<&iGlobal::toggle_auto_color>("ToggleAutoColor", id("ToggleAutoColor")),
+        automation::method<&iGlobal::run_auto_color>("RunAutoColor", id("RunAutoColor")),
         automation::method<&iGlobal::run_macro>("RunMacro", id("RunMacro"), "Request"),
         automation::method<&iGlobal::apply_smart_cycle_style>("ApplySmartCycleStyle", id("ApplySmartCycleStyle"),
                                                               "CycleNumber, Position, Range"));

@@ -22,6 +22,9 @@ class iGlobal : public automation::Served<iGlobal> {
     // Applies one step (from 1) of a user style SmartCycle (1 to 15) to a range.
     void apply_smart_cycle_style(std::int32_t cycle, std::int32_t position, const automation::ObjectRef& range) const;
 
+    void toggle_auto_color() const;
+    void run_auto_color() const;  // on the selection, whatever the moment
+
     std::shared_ptr<SharedState> shared_;
 };
 

@@ -19,6 +19,7 @@ class Application : public Facade<Application> {
         {"ActiveWindow", Access::get},
         {"ActiveWorkbook", Access::get},
         {"Calculation", Access::get_put},
+        {"CutCopyMode", Access::get_put},
         {"Goto", Access::method, "Reference Scroll"},
         {"Height", Access::get_put},
         {"Intersect", Access::method,
@@ -48,6 +49,8 @@ class Application : public Facade<Application> {
     [[nodiscard]] Workbook ActiveWorkbook() const { return get<Workbook>("ActiveWorkbook"); }
     [[nodiscard]] std::int32_t Calculation() const { return get<std::int32_t>("Calculation"); }  // XlCalculation
     void Calculation(std::int32_t mode) const { put("Calculation", mode); }
+    // Whether copied or cut cells wait to be pasted, with a moving border around them.
+    [[nodiscard]] bool CutCopyMode() const { return get<bool>("CutCopyMode"); }
     void Goto(const Range& reference) const { call("Goto", reference.object()); }
     // The cells that two ranges of one sheet share; Nothing when they share none.
     [[nodiscard]] Range Intersect(const Range& one, const Range& other) const {

@@ -8,6 +8,7 @@
 #include "excel/Borders.h"
 #include "excel/Font.h"
 #include "excel/FormatConditions.h"
+#include "excel/Hyperlink.h"
 #include "excel/Interior.h"
 
 namespace kestrune::excel {
@@ -38,9 +39,11 @@ class Range : public Facade<Range> {
         {"HasFormula", Access::get},
         {"Hidden", Access::get_put},
         {"HorizontalAlignment", Access::get_put},
+        {"Hyperlinks", Access::get},
         {"IndentLevel", Access::get_put},
         {"Interior", Access::get},
         {"Item", Access::get, "RowIndex! ColumnIndex"},
+        {"Locked", Access::get_put},
         {"MergeCells", Access::get_put},
         {"NumberFormat", Access::get_put},
         {"Orientation", Access::get_put},
@@ -101,10 +104,12 @@ class Range : public Facade<Range> {
     void Hidden(excel::Value value) const { put("Hidden", std::move(value)); }
     [[nodiscard]] excel::Value HorizontalAlignment() const { return get("HorizontalAlignment"); }
     void HorizontalAlignment(excel::Value value) const { put("HorizontalAlignment", std::move(value)); }
+    [[nodiscard]] excel::Hyperlinks Hyperlinks() const { return get<excel::Hyperlinks>("Hyperlinks"); }
     [[nodiscard]] excel::Value IndentLevel() const { return get("IndentLevel"); }
     void IndentLevel(excel::Value value) const { put("IndentLevel", std::move(value)); }
     [[nodiscard]] excel::Interior Interior() const { return get<excel::Interior>("Interior"); }
     [[nodiscard]] Range Item(std::int32_t row, std::int32_t column) const { return get<Range>("Item", row, column); }
+    [[nodiscard]] excel::Value Locked() const { return get("Locked"); }  // while the sheet is protected
     [[nodiscard]] excel::Value MergeCells() const { return get("MergeCells"); }
     void MergeCells(excel::Value value) const { put("MergeCells", std::move(value)); }
     [[nodiscard]] excel::Value NumberFormat() const { return get("NumberFormat"); }

@@ -6,6 +6,7 @@
 
 #include "excel/ListObjects.h"
 #include "excel/Names.h"
+#include "excel/Protection.h"
 #include "excel/Range.h"
 
 namespace kestrune::excel {
@@ -24,6 +25,8 @@ class Worksheet : public Facade<Worksheet> {
         {"Names", Access::get},
         {"Parent", Access::get},
         {"ProtectContents", Access::get},
+        {"Protection", Access::get},
+        {"ProtectionMode", Access::get},
         {"Range", Access::get, "Cell1! Cell2"},
         {"StandardWidth", Access::get_put},
         {"UsedRange", Access::get},
@@ -43,6 +46,9 @@ class Worksheet : public Facade<Worksheet> {
     [[nodiscard]] excel::Names Names() const { return get<excel::Names>("Names"); }
     [[nodiscard]] excel::Workbook Parent() const;
     [[nodiscard]] bool ProtectContents() const { return get<bool>("ProtectContents"); }
+    [[nodiscard]] excel::Protection Protection() const { return get<excel::Protection>("Protection"); }
+    // Whether a protected sheet lets macros do everything.
+    [[nodiscard]] bool ProtectionMode() const { return get<bool>("ProtectionMode"); }
     // By address or defined name ("B2:C5,E7").
     [[nodiscard]] excel::Range Range(std::string_view address) const { return get<excel::Range>("Range", address); }
     [[nodiscard]] double StandardWidth() const { return get<double>("StandardWidth"); }  // characters

@@ -36,12 +36,13 @@ class StyleCopies {
 
 }  // namespace
 
-void cUserSettings::LoadDefaults() {
+void cUserSettings::LoadDefaults(const core::AutoColorSettings& auto_color) {
     Styles = styles::built_in_styles();
     BRPaintbrushStyle = Styles->Item("BR US Dollar Two Decimals");
     SheetStyle = Styles->Item("BR Times New Roman");
     ErrorMsg = "\"NA\"";
     ZoomInterval = 5;
+    AutoColor = auto_color;
     for (const DefaultCycle& row : default_cycles()) {
         auto toggle = std::make_shared<cStyleToggle>(std::string(row.display_name));
         for (const std::string_view step : row.steps) toggle->Styles->Add(Styles->Item(step));
@@ -57,6 +58,7 @@ std::shared_ptr<cUserSettings> cUserSettings::Copy() const {
     copy->SheetStyle = copies.of(SheetStyle);
     copy->ErrorMsg = ErrorMsg;
     copy->ZoomInterval = ZoomInterval;
+    copy->AutoColor = AutoColor;
     for (std::size_t i = 0; i < cycles_.size(); ++i) {
         if (!cycles_[i]) continue;
         copy->cycles_[i] = std::make_shared<cStyleToggle>(cycles_[i]->Name);

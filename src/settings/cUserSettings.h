@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 
+#include "core/bridges/AutoColorSettings.h"
 #include "settings/StyleCycle.h"
 #include "styles/cStyleToggle.h"
 #include "styles/cStyles.h"
@@ -24,6 +25,7 @@ class cUserSettings {
     styles::StyleRef SheetStyle;
     std::string ErrorMsg;           // a quoted text ("\"NA\"")
     std::int32_t ZoomInterval = 0;  // per cent
+    core::AutoColorSettings AutoColor;
 
     [[nodiscard]] const styles::StyleToggleRef& cycle(StyleCycle field) const {
         return cycles_[static_cast<std::size_t>(field)];
@@ -32,8 +34,8 @@ class cUserSettings {
         cycles_[static_cast<std::size_t>(field)] = std::move(toggle);
     }
 
-    // Fills the record with the settings of a fresh installation.
-    void LoadDefaults();
+    // Fills the record with the settings of a fresh installation. Those of AutoColor are the spreadsheet library's.
+    void LoadDefaults(const core::AutoColorSettings& auto_color = {});
 
     // A record with the same values and styles of its own, to which its cycles refer.
     [[nodiscard]] std::shared_ptr<cUserSettings> Copy() const;

@@ -21,6 +21,7 @@
 #include "host/objects/NameObject.h"
 #include "host/objects/NamesObject.h"
 #include "host/objects/OutlineObject.h"
+#include "host/objects/ProtectionObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/SheetsObject.h"
 #include "host/objects/WindowObject.h"
@@ -64,6 +65,7 @@ TEST(ServedMembers, AreExcels) {
         &NameObject::members(),
         &NamesObject::members(),
         &OutlineObject::members(),
+        &ProtectionObject::members(),
         &RangeObject::members(),
         &SheetsObject::members(),
         &WindowObject::members(),

@@ -30,6 +30,7 @@ class LibraryBridge {
     // Unregisters the client, then lets go of everything.
     ~LibraryBridge();
 
+    [[nodiscard]] const automation::Trace& trace() const { return trace_; }
     [[nodiscard]] const automation::ObjectRef& object(std::size_t place) const { return objects_[place]; }
     // One call of a sub-object's operation. Fails with object-required when the library has no such sub-object.
     automation::Value call(std::size_t place, std::string_view operation, automation::Arguments arguments = {}) const;

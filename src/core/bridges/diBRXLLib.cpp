@@ -1,6 +1,10 @@
 #include "core/bridges/diBRXLLib.h"
 
+#include <type_traits>
+
 #include "automation/Conversion.h"
+#include "automation/ResumeNext.h"
+#include "core/bridges/Product.h"
 
 namespace kestrune::core {
 
@@ -90,6 +94,40 @@ std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows
 
 void diBRXLLib::display_array(const automation::Value& array, std::string_view title) const {
     call(Display, "DisplayArray", {array, title});
+}
+
+AutoColorSettings diBRXLLib::auto_color_defaults() const {
+    automation::Object& constants = automation::to_required_object(iConst());
+    AutoColorSettings settings;
+    for_each_setting(settings, [&](std::string_view name, auto& setting) {
+        setting = automation::convert<std::remove_reference_t<decltype(setting)>>(automation::get(constants, name));
+    });
+    return settings;
+}
+
+void diBRXLLib::set_auto_color(const AutoColorSettings& settings) const {
+    automation::Object& service = automation::to_required_object(iAutoColor());
+    const automation::ResumeNext attempt(trace());
+    for_each_setting(settings, [&](std::string_view name, const auto& setting) {
+        attempt([&] { automation::put(service, name, setting); });
+    });
+}
+
+std::string diBRXLLib::auto_color_smart_cycle() const {
+    return automation::to_text(automation::get(automation::to_required_object(iAutoColor()), "SmartCycleName"));
+}
+
+void diBRXLLib::toggle_auto_color() const { call(AutoColor, "Toggle"); }
+void diBRXLLib::auto_color_selection() const { call(AutoColor, "RunSelection"); }
+void diBRXLLib::auto_color_worksheet() const { call(AutoColor, "RunWorksheet"); }
+void diBRXLLib::auto_color_workbook() const { call(AutoColor, "RunWorkbook"); }
+
+void diBRXLLib::update_ctrl_enter(bool while_on, bool while_off) const {
+    call(AutoColor, "UpdateCtrlEnter", {while_on, while_off});
+}
+
+void diBRXLLib::register_callback(const ObjectRef& callback) const {
+    call(UndoRedo, "RegisterCallback", {client_name, callback});
 }
 
 }  // namespace kestrune::core

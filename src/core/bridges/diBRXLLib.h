@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/bridges/AutoColorSettings.h"
 #include "core/bridges/LibraryBridge.h"
 
 namespace kestrune::core {
@@ -77,6 +78,23 @@ class diBRXLLib : public LibraryBridge {
 
     // Shows an array as a table.
     void display_array(const automation::Value& array, std::string_view title) const;
+
+    // AutoColor: the settings of a fresh installation; handing settings over to the service, each on its own, so that
+    // one that fails loses itself only; the colouring.
+    [[nodiscard]] AutoColorSettings auto_color_defaults() const;
+    void set_auto_color(const AutoColorSettings& settings) const;
+    // The name of the font-colour SmartCycle whose colours AutoColor leaves alone.
+    [[nodiscard]] std::string auto_color_smart_cycle() const;
+    // Switches colouring as cells change on or off.
+    void toggle_auto_color() const;
+    void auto_color_selection() const;
+    void auto_color_worksheet() const;  // the active one
+    void auto_color_workbook() const;   // the active one
+    // Whether fills of a whole selection by Ctrl+Enter are coloured while AutoColor is on, and while it is off.
+    void update_ctrl_enter(bool while_on, bool while_off) const;
+
+    // Has the library call an object of ours back.
+    void register_callback(const automation::ObjectRef& callback) const;
 
   private:
     enum Place : std::size_t {

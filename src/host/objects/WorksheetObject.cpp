@@ -6,6 +6,7 @@
 #include "host/objects/NamesObject.h"
 #include "host/objects/Optional.h"
 #include "host/objects/OutlineObject.h"
+#include "host/objects/ProtectionObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/RangeReference.h"
 #include "host/objects/SheetMeasures.h"
@@ -51,6 +52,7 @@ ObjectRef WorksheetObject::used_range() const {
 ObjectRef WorksheetObject::names() const { return std::make_shared<NamesObject>(session(), sheet()); }
 ObjectRef WorksheetObject::outline() const { return std::make_shared<OutlineObject>(session(), sheet()); }
 ObjectRef WorksheetObject::hyperlinks() const { return std::make_shared<HyperlinksObject>(session(), sheet()); }
+ObjectRef WorksheetObject::protection() const { return std::make_shared<ProtectionObject>(session(), sheet()); }
 
 double WorksheetObject::standard_width() const { return host::standard_width(sheet()); }
 
@@ -136,7 +138,8 @@ const MemberTable& WorksheetObject::members() {
                             "[AllowInsertingColumns], [AllowInsertingRows], [AllowInsertingHyperlinks], "
                             "[AllowDeletingColumns], [AllowDeletingRows], [AllowSorting], [AllowFiltering], "
                             "[AllowUsingPivotTables]"),
-        method<&W::unprotect>("Unprotect", 22, "[Password]"));
+        method<&W::unprotect>("Unprotect", 22, "[Password]"), read_only<&W::protection>("Protection", 23),
+        read_only<&W::protection_mode>("ProtectionMode", 24));
     static constexpr MemberTable table("Worksheet", rows);
     return table;
 }

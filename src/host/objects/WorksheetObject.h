@@ -18,6 +18,9 @@ class WorksheetObject final : public SheetObject<WorksheetObject> {
     [[nodiscard]] ObjectRef names() const;
     [[nodiscard]] ObjectRef outline() const;
     [[nodiscard]] ObjectRef hyperlinks() const;
+    [[nodiscard]] ObjectRef protection() const;
+    // Whether macros may change what the protection keeps from people. No file says so: it ends when Excel does.
+    [[nodiscard]] bool protection_mode() const { return false; }
     [[nodiscard]] double standard_width() const;  // characters of the Normal font
     void set_standard_width(double characters);   // 0 to 255
     [[nodiscard]] double standard_height() const { return sheet().defaults().default_row_height; }  // points

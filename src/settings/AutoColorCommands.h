@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstdint>
+
+#include "core/bridges/SharedState.h"
+
+namespace kestrune::settings {
+
+// Hands the AutoColor settings of the user over to the library that does the colouring.
+void hand_over_auto_color(core::SharedState& shared);
+
+// Switches colouring of cells as they change on or off; the library keeps which.
+void toggle_auto_color(core::SharedState& shared);
+
+// Command bodies: colour cells by what they hold. What fails leaves the workbook as it was and shows nothing.
+void auto_color_selection(core::SharedState& shared, std::int32_t);
+void auto_color_worksheet(core::SharedState& shared, std::int32_t);  // the active one
+void auto_color_workbook(core::SharedState& shared, std::int32_t);   // every worksheet of the active one
+
+}  // namespace kestrune::settings
