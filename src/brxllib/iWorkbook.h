@@ -23,6 +23,16 @@ class iWorkbook : public automation::Served<iWorkbook> {
     // The entry (1 to 56) of the workbook's palette nearest to a BGR colour.
     [[nodiscard]] std::int32_t nearest_color_index(std::int32_t color, const automation::ObjectRef& workbook) const;
 
+    // The names whose reference is invalid (InvalidNames.h), an array from 1; and deletes them: how many went.
+    [[nodiscard]] automation::Value invalid_names(const automation::ObjectRef& workbook) const;
+    std::int32_t remove_invalid_names(const automation::ObjectRef& workbook);
+
+    // The workbook's custom number formats that are not in use: neither in FormatsInUse (an array of codes) nor by
+    // rows, columns, styles, conditional formats, charts or pivot tables. An array from 1. Where nobody can list a
+    // workbook's formats there are none.
+    [[nodiscard]] automation::Value unused_number_formats(const automation::ObjectRef& workbook,
+                                                          const automation::Value& formats_in_use) const;
+
     std::shared_ptr<Library> library_;
 };
 

@@ -23,6 +23,7 @@ class Workbook : public Facade<Workbook> {
         {"Path", Access::get},
         {"Save", Access::method},
         {"Saved", Access::get_put},
+        {"Sheets", Access::get},
         {"Worksheets", Access::get},
     });
     using Facade::Facade;
@@ -44,6 +45,8 @@ class Workbook : public Facade<Workbook> {
     void Save() const { call("Save"); }
     [[nodiscard]] bool Saved() const { return get<bool>("Saved"); }
     void Saved(bool saved) const { put("Saved", saved); }
+    // All sheets, charts and macro sheets among them, of which nothing but the name may be asked.
+    [[nodiscard]] excel::Worksheets Sheets() const { return get<excel::Worksheets>("Sheets"); }
     [[nodiscard]] excel::Worksheets Worksheets() const { return get<excel::Worksheets>("Worksheets"); }
 };
 

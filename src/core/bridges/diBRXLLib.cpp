@@ -1,5 +1,6 @@
 #include "core/bridges/diBRXLLib.h"
 
+#include <algorithm>
 #include <type_traits>
 
 #include "automation/Conversion.h"
@@ -27,6 +28,14 @@ std::vector<CellLink> links_of(const automation::Value& answer) {
         links.push_back({text(0), text(1), text(2), text(3), text(4), text(5), number(6), number(7), text(8)});
     }
     return links;
+}
+
+std::vector<std::string> texts_of(const automation::Value& answer) {
+    std::vector<std::string> texts;
+    if (const automation::Array* array = answer.array()) {
+        for (const automation::Value& text : array->elements()) texts.push_back(automation::to_text(text));
+    }
+    return texts;
 }
 
 }  // namespace
@@ -90,6 +99,21 @@ std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows
 std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns,
                                      std::int32_t row, std::int32_t column) const {
     return automation::to_text(call(Formula, "Shift", {formula, rows, columns, row, column}));
+}
+
+std::vector<std::string> diBRXLLib::invalid_names(const ObjectRef& workbook) const {
+    return texts_of(call(Workbook, "InvalidNames", {workbook}));
+}
+
+std::int32_t diBRXLLib::remove_invalid_names(const ObjectRef& workbook) const {
+    return automation::to_integer(call(Workbook, "RemoveInvalidNames", {workbook}));
+}
+
+std::vector<std::string> diBRXLLib::unused_number_formats(const ObjectRef& workbook,
+                                                          const std::vector<std::string>& in_use) const {
+    automation::Array codes(automation::Array::Bound{1, static_cast<std::int32_t>(in_use.size())});
+    std::ranges::copy(in_use, codes.elements().begin());
+    return texts_of(call(Workbook, "UnusedNumberFormats", {workbook, codes}));
 }
 
 void diBRXLLib::display_array(const automation::Value& array, std::string_view title) const {

@@ -76,6 +76,14 @@ class diBRXLLib : public LibraryBridge {
     [[nodiscard]] std::string shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns,
                                             std::int32_t row, std::int32_t column) const;
 
+    // The names of a workbook whose reference is invalid and that nobody but the user owns.
+    [[nodiscard]] std::vector<std::string> invalid_names(const automation::ObjectRef& workbook) const;
+    // Deletes them; how many went.
+    [[nodiscard]] std::int32_t remove_invalid_names(const automation::ObjectRef& workbook) const;
+    // The custom number formats of a workbook that neither the given codes nor anything but cells has in use.
+    [[nodiscard]] std::vector<std::string> unused_number_formats(const automation::ObjectRef& workbook,
+                                                                 const std::vector<std::string>& in_use) const;
+
     // Shows an array as a table.
     void display_array(const automation::Value& array, std::string_view title) const;
 
