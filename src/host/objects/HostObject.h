@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -46,12 +47,13 @@ class HostObject : public automation::Served<Derived> {
     [[nodiscard]] ObjectRef application() const { return make_application(session_); }
 
   protected:
-    explicit HostObject(HostSession& session) : session_(session) {}
+    explicit HostObject(HostSession& session) : session_(session), kept_(session.weak_from_this().lock()) {}
 
     [[nodiscard]] HostSession& session() const { return session_; }
 
   private:
     HostSession& session_;
+    std::shared_ptr<HostSession> kept_;  // null for a session that somebody else sees to
 };
 
 }  // namespace kestrune::host

@@ -49,8 +49,9 @@ struct OpenWorkbook {
 std::string full_name(const Workbook& workbook);
 
 // One run of the embedded Excel: its workbooks and the state of the application. The objects that it serves are safe
-// to call as long as it lives; those of a closed workbook answer that it is gone.
-class HostSession {
+// to call as long as it lives, and keep one alive that is held by shared pointers; those of a closed workbook answer
+// that it is gone.
+class HostSession : public std::enable_shared_from_this<HostSession> {
   public:
     HostSession() = default;
     HostSession(const HostSession&) = delete;
