@@ -4,6 +4,7 @@
 #include "brvblib/register_library.h"
 #include "brxllib/register_library.h"
 #include "cli/Failure.h"
+#include "cli/InstallationFolder.h"
 #include "core/register_add_in.h"
 
 namespace kestrune::cli {
@@ -11,7 +12,7 @@ namespace kestrune::cli {
 AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace) {
     brvblib::register_library({.trace = trace, .presenter = presenter});
     brxllib::register_library(trace, {.presenter = &presenter});
-    core::register_add_in(presenter, trace);
+    core::register_add_in(presenter, trace, installation_folder());
     public_ = automation::CreateObject("KestruneXL.iPublic");
     // The workbook that stands for the companion add-in is the one being worked on: it has no other here.
     automation::call(*public_, "NewPublic", {application.object(), application.ActiveWorkbook().object()});

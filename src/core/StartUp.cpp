@@ -1,14 +1,17 @@
 #include "core/StartUp.h"
 
 #include "automation/ResumeNext.h"
+#include "core/ExamplesWorkbook.h"
+#include "core/UserSettings.h"
 #include "core/bridges/Product.h"
+#include "core/diHotKeys.h"
+#include "core/diUndoRedo.h"
 #include "forms/MsgBox.h"
-#include "settings/AutoColorCommands.h"
-#include "settings/cUserSettings.h"
 
 namespace kestrune::core {
 
-bool start_up(SharedState& shared) {
+bool start_up(const std::shared_ptr<SharedState>& state) {
+    SharedState& shared = *state;
     shared.general_library = std::make_shared<diBRVBLib>(shared.trace);
     if (!shared.general_library->Create()) {
         forms::MsgBox(shared.presenter,
@@ -24,13 +27,16 @@ bool start_up(SharedState& shared) {
         return false;
     }
     const automation::ResumeNext attempt(shared.trace);
-    shared.user_settings = std::make_shared<settings::cUserSettings>();
-    AutoColorSettings auto_color;
-    attempt.assign(auto_color, [&] { return shared.spreadsheet().auto_color_defaults(); });
-    attempt([&] { shared.user_settings->LoadDefaults(auto_color); });
-    settings::hand_over_auto_color(shared);
+    attempt([&] { shared.general().register_hot_keys(std::make_shared<diHotKeys>(state)); });
+    attempt([&] { shared.spreadsheet().register_callback(std::make_shared<diUndoRedo>(state)); });
+    bool show_examples = false;
+    attempt.assign(show_examples, [&] { return shared.general().shows_examples_at_start(); });
+    attempt([&] { shared.general().set_hot_key_product(shared.general().constant(0)); });
+    // A first start, which shows the examples, has no settings yet, and nothing is wrong with that.
+    load_user_settings(shared, !show_examples);
     shared.command_collection = std::make_unique<std::vector<automation::Value>>();
     shared.counter = 0;
+    if (show_examples) show_examples_workbook(shared);
     return true;
 }
 

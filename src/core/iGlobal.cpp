@@ -1,6 +1,8 @@
 #include "core/iGlobal.h"
 
 #include "core/Dispatcher.h"
+#include "core/ExamplesWorkbook.h"
+#include "core/Folders.h"
 #include "core/iGlobalInterface.h"
 #include "settings/AutoColorCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
@@ -40,11 +42,20 @@ void iGlobal::run_auto_color() const {
     settings::auto_color_selection(*shared, 0);
 }
 
+void iGlobal::show_examples_workbook() const {
+    const auto shared = shared_;
+    core::show_examples_workbook(*shared);
+}
+
+std::string iGlobal::lesson_path() const { return lessons_folder(*shared_); }
+
 const MemberTable& iGlobal::members() {
     static constexpr auto rows = automation::member_rows(
         automation::method<&iGlobal::toggle_auto_color>("ToggleAutoColor", id("ToggleAutoColor")),
         automation::method<&iGlobal::run_auto_color>("RunAutoColor", id("RunAutoColor")),
+        automation::method<&iGlobal::show_examples_workbook>("ShowExamplesWorkbook", id("ShowExamplesWorkbook")),
         automation::method<&iGlobal::run_macro>("RunMacro", id("RunMacro"), "Request"),
+        automation::read_only<&iGlobal::lesson_path>("LessonPath", id("LessonPath")),
         automation::method<&iGlobal::apply_smart_cycle_style>("ApplySmartCycleStyle", id("ApplySmartCycleStyle"),
                                                               "CycleNumber, Position, Range"));
     static constexpr MemberTable table("iGlobal", rows);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <utility>
 
 #include "automation/MemberTable.h"
@@ -19,6 +20,9 @@ class iGlobal : public automation::Served<iGlobal> {
   private:
     // Runs a numbered command ("19", "20.3"); whether one could run.
     bool run_macro(const automation::Value& request) const;
+    void show_examples_workbook() const;
+    // The folder of the lesson workbooks, a separator at its end.
+    [[nodiscard]] std::string lesson_path() const;
     // Applies one step (from 1) of a user style SmartCycle (1 to 15) to a range.
     void apply_smart_cycle_style(std::int32_t cycle, std::int32_t position, const automation::ObjectRef& range) const;
 

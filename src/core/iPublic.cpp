@@ -17,7 +17,7 @@ std::shared_ptr<iPublic> iPublic::new_public(const ObjectRef& application, const
     if (opened_) return self;
     opened_ = true;
     shared_->application = application;
-    if (!start_up(*shared_)) return self;
+    if (!start_up(shared_)) return self;
 
     const automation::ResumeNext attempt(shared_->trace);
     shared_->xl = std::make_shared<cXL>();

@@ -7,10 +7,12 @@
 
 namespace kestrune::core {
 
-void register_add_in(forms::Presenter& presenter, const automation::Trace& trace) {
-    automation::register_class("KestruneXL.iPublic", [shared = std::make_shared<SharedState>(presenter, trace)] {
-        return std::make_shared<iPublic>(shared);
-    });
+void register_add_in(forms::Presenter& presenter, const automation::Trace& trace,
+                     const std::string& installation_folder) {
+    automation::register_class("KestruneXL.iPublic",
+                               [shared = std::make_shared<SharedState>(presenter, trace, installation_folder)] {
+                                   return std::make_shared<iPublic>(shared);
+                               });
 }
 
 }  // namespace kestrune::core

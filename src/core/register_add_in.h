@@ -1,12 +1,16 @@
 #pragma once
 
+#include <string>
+
 #include "automation/Trace.h"
 #include "forms/Presenter.h"
 
 namespace kestrune::core {
 
 // Lets CreateObject("KestruneXL.iPublic") make the add-in's entry object. All objects made share one state, as in
-// one loaded component. The presenter and the trace outlive every object made.
-void register_add_in(forms::Presenter& presenter, const automation::Trace& trace);
+// one loaded component. The presenter and the trace outlive every object made. The installation folder is the
+// component's own; examples and lessons lie in it.
+void register_add_in(forms::Presenter& presenter, const automation::Trace& trace,
+                     const std::string& installation_folder = {});
 
 }  // namespace kestrune::core

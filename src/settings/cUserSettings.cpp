@@ -41,6 +41,7 @@ void cUserSettings::LoadDefaults(const core::AutoColorSettings& auto_color) {
     BRPaintbrushStyle = Styles->Item("BR US Dollar Two Decimals");
     SheetStyle = Styles->Item("BR Times New Roman");
     ErrorMsg = "\"NA\"";
+    TrainingModule = true;
     ZoomInterval = 5;
     AutoColor = auto_color;
     for (const DefaultCycle& row : default_cycles()) {
@@ -57,6 +58,7 @@ std::shared_ptr<cUserSettings> cUserSettings::Copy() const {
     copy->BRPaintbrushStyle = copies.of(BRPaintbrushStyle);
     copy->SheetStyle = copies.of(SheetStyle);
     copy->ErrorMsg = ErrorMsg;
+    copy->TrainingModule = TrainingModule;
     copy->ZoomInterval = ZoomInterval;
     copy->AutoColor = AutoColor;
     for (std::size_t i = 0; i < cycles_.size(); ++i) {

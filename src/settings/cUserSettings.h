@@ -24,6 +24,7 @@ class cUserSettings {
     styles::StyleRef BRPaintbrushStyle;
     styles::StyleRef SheetStyle;
     std::string ErrorMsg;           // a quoted text ("\"NA\"")
+    bool TrainingModule = false;    // whether the tutorial menu is shown
     std::int32_t ZoomInterval = 0;  // per cent
     core::AutoColorSettings AutoColor;
 

@@ -20,7 +20,7 @@ struct AddInTest : testing::Test {
         application->window = std::make_shared<fake::Window>(log);
         application->workbook = std::make_shared<fake::Workbook>("model", log);
         brvblib::register_library({.trace = trace, .presenter = presenter});
-        brxllib::register_library(trace);
+        brxllib::register_library(trace, {.presenter = &presenter});
         register_add_in(presenter, trace);
         trace.listen([this](std::string_view line) { skipped.emplace_back(line); });
     }
@@ -34,7 +34,7 @@ struct AddInTest : testing::Test {
     void watch(const std::string& library) {
         automation::register_class(library + ".iPublic",
                                    [this, library, real = automation::CreateObject(library + ".iPublic")] {
-                                       return std::make_shared<fake::Spy>(real, library, log);
+                                       return std::make_shared<fake::Spy>(real, library, log, callbacks);
                                    });
     }
 
@@ -52,12 +52,17 @@ struct AddInTest : testing::Test {
         return automation::to_boolean(automation::call(*global, "RunMacro", {std::move(request)}));
     }
 
+    // The objects by which the watched libraries call the add-in back.
+    automation::ObjectRef hot_keys() { return callbacks.at("BRVBLib.iHotKeys.Registry"); }
+    automation::ObjectRef undo() { return callbacks.at("BRXLLib.iUndoRedo"); }
+
     fake::Log log;
     std::vector<std::string> skipped;
     automation::Trace trace;
     forms::ScriptedPresenter presenter;
     std::shared_ptr<fake::Application> application = std::make_shared<fake::Application>(log);
     std::shared_ptr<fake::Workbook> add_in_workbook = std::make_shared<fake::Workbook>("companion", log);
+    fake::Callbacks callbacks;  // of watched libraries
     automation::ObjectRef entry;
     automation::ObjectRef global;
 };

@@ -93,11 +93,14 @@ Value Spy::invoke(std::string_view member, Call kind, Arguments& arguments) {
     std::string given;
     for (const Value& argument : arguments.positional) {
         given += fmt::format("{}{}", given.empty() ? "" : ",",
-                             argument.if_is<automation::ObjectRef>() ? "object" : automation::to_text(argument));
+                             argument.if_is<automation::ObjectRef>() ? "object"
+                             : argument.array()                      ? "array"
+                                                                     : automation::to_text(argument));
     }
+    if (member == "RegisterCallback") callbacks_[path_] = automation::to_object(arguments.positional.at(1));
     Value answer = real_->invoke(member, kind, arguments);
     if (const auto* object = answer.if_is<automation::ObjectRef>(); object && *object) {
-        return std::make_shared<Spy>(*object, line, log_);
+        return std::make_shared<Spy>(*object, line, log_, callbacks_);
     }
     log_.push_back(fmt::format("{}({})", line, given));
     return answer;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -87,11 +88,14 @@ class Application : public automation::Served<Application> {
     Log& log_;
 };
 
-// Stands before a library and writes down every call to it and to its sub-objects.
+// What a client handed to libraries to be called back, by the object that took it ("BRXLLib.iUndoRedo").
+using Callbacks = std::map<std::string, automation::ObjectRef>;
+
+// Stands before a library and writes down every call to it and to its sub-objects; keeps callbacks for tests to call.
 class Spy : public automation::Object {
   public:
-    Spy(automation::ObjectRef real, std::string path, Log& log)
-        : real_(std::move(real)), path_(std::move(path)), log_(log) {}
+    Spy(automation::ObjectRef real, std::string path, Log& log, Callbacks& callbacks)
+        : real_(std::move(real)), path_(std::move(path)), log_(log), callbacks_(callbacks) {}
     Value invoke(std::string_view member, automation::Call kind, automation::Arguments& arguments) override;
     [[nodiscard]] std::string_view type_name() const override { return real_->type_name(); }
 
@@ -99,6 +103,7 @@ class Spy : public automation::Object {
     automation::ObjectRef real_;
     std::string path_;
     Log& log_;
+    Callbacks& callbacks_;
 };
 
 }  // namespace kestrune::core::fake

@@ -1,4 +1,7 @@
 #include "core/AddInTest.h"
+#include "core/StartUp.h"
+#include "core/iPublic.h"
+#include "settings/cUserSettings.h"
 
 namespace kestrune::core {
 namespace {
@@ -58,7 +61,7 @@ TEST_F(StartUpTest, TellsWhichLibraryIsMissing) {
         << "both are missing now, and one message is enough";
 }
 
-TEST_F(StartUpTest, RegistersWithBothLibraries) {
+TEST_F(StartUpTest, GoesStepByStep) {
     watch("BRVBLib");
     watch("BRXLLib");
     entry = create_public();
@@ -71,10 +74,68 @@ TEST_F(StartUpTest, RegistersWithBothLibraries) {
     });
     EXPECT_THAT(log, ElementsAre("BRVBLib.iProduct.RegisterClient(KestruneXL,Kestrune,Brannoch Kestrune)",
                                  "BRXLLib.iProduct.RegisterClient(KestruneXL,Kestrune,Brannoch Kestrune)",
-                                 "BRXLLib.SetApplication(object)", "BRVBLib.SetApplication(object)"));
+                                 "BRVBLib.iHotKeys.Registry.RegisterCallback(KestruneXL,object)",
+                                 "BRXLLib.iUndoRedo.RegisterCallback(KestruneXL,object)",
+                                 "BRVBLib.iProduct.ShowExamplesAtStart()", "BRVBLib.iConst.Text(0)",
+                                 "BRVBLib.iHotKeys.Registry.Product(Kestrune)", "BRVBLib.iProduct.MachineValue(TT)",
+                                 "BRVBLib.iProduct.AllowsTraining()", "BRXLLib.SetApplication(object)",
+                                 "BRVBLib.SetApplication(object)"));
+    EXPECT_THAT(skipped, IsEmpty());
+}
+
+TEST_F(StartUpTest, RegistersNobodyWithoutTheGeneralLibrary) {
+    automation::unregister_class("BRVBLib.iPublic");
+    watch("BRXLLib");
+    start();
+    EXPECT_THAT(callbacks, IsEmpty());
+    EXPECT_EQ(presenter.messages().size(), 1U);
+}
+
+TEST_F(StartUpTest, ShowsTheTutorialWhereItIsInstalled) {
+    const auto shows_tutorial = [&](brvblib::StatedValues::Values values) {
+        brvblib::register_library({.trace = trace,
+                                   .presenter = presenter,
+                                   .products = std::make_shared<brvblib::StatedValues>(std::move(values))});
+        const auto shared = std::make_shared<SharedState>(presenter, trace);
+        iPublic add_in(shared);
+        EXPECT_TRUE(start_up(shared));
+        return shared->settings().TrainingModule;
+    };
+    EXPECT_TRUE(shows_tutorial({}));
+    EXPECT_TRUE(shows_tutorial({{"TT", true}}));
+    EXPECT_FALSE(shows_tutorial({{"TT", 0}}));
+}
+
+// An object that tells when it goes.
+template <class T>
+std::shared_ptr<T> watched(std::shared_ptr<T> object, fake::Log& log, const char* name) {
+    T* const watched_object = object.get();
+    return {watched_object, [object = std::move(object), &log, name](T*) mutable {
+                object.reset();
+                log.emplace_back(name);
+            }};
 }
 
 TEST_F(StartUpTest, LetsGoOfEverythingInOrder) {
+    const auto shared = std::make_shared<SharedState>(presenter, trace);
+    auto add_in = std::make_shared<iPublic>(shared);
+    call(*add_in, "NewPublic", {application, add_in_workbook});
+    shared->xl = watched(shared->xl, log, "spreadsheet wrapper");
+    shared->application = watched<automation::Object>(std::make_shared<fake::Window>(log), log, "application");
+    shared->add_in_workbook = watched<automation::Object>(std::make_shared<fake::Window>(log), log, "workbook");
+    shared->spreadsheet_library = watched(shared->spreadsheet_library, log, "spreadsheet library");
+    shared->general_library = watched(shared->general_library, log, "general library");
+    shared->user_settings = watched(shared->user_settings, log, "settings");
+    shared->command_collection->push_back(
+        watched<automation::Object>(std::make_shared<fake::Window>(log), log, "commands"));
+    log.clear();
+    add_in.reset();
+    EXPECT_THAT(log, ElementsAre("spreadsheet wrapper", "application", "workbook", "spreadsheet library",
+                                 "general library", "settings", "commands"));
+    EXPECT_EQ(shared.use_count(), 1) << "no callback keeps the state";
+}
+
+TEST_F(StartUpTest, UnregistersWhenItIsOver) {
     watch("BRVBLib");
     watch("BRXLLib");
     start();

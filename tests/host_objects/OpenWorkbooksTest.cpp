@@ -1,42 +1,10 @@
 #include <gmock/gmock.h>
 
-#include <map>
-
+#include "host_objects/FakeStore.h"
 #include "host_objects/HostFixture.h"
 
 namespace kestrune::host {
 namespace {
-
-// Files as the host sees them: a full name and how often each was saved.
-class FakeStore : public WorkbookStore {
-  public:
-    std::unique_ptr<StoredWorkbook> open(const std::string& path) override {
-        if (!saves.contains(path)) return nullptr;
-        if (path.ends_with("broken.xlsx")) {
-            throw automation::AutomationError(automation::hresult::excel_error, "Workbooks.Open", path + ": broken");
-        }
-        return std::make_unique<File>(path, saves[path]);
-    }
-
-    std::map<std::string, int> saves;
-
-  private:
-    class File : public StoredWorkbook {
-      public:
-        File(const std::string& path, int& saves) : saves_(saves) {
-            const std::size_t slash = path.rfind('/');
-            workbook_.name = path.substr(slash + 1);
-            workbook_.path = path.substr(0, slash);
-            workbook_.add_sheet("First");
-        }
-        Workbook& workbook() override { return workbook_; }
-        void save() override { ++saves_; }
-
-      private:
-        Workbook workbook_;
-        int& saves_;
-    };
-};
 
 class OpenWorkbooksTest : public HostTest {
   protected:

@@ -42,9 +42,15 @@ class FormulaScan final : public XmlParser {
     }
 
     void on_start(std::string_view name, XmlAttributes attributes, int) override {
-        static const std::set<std::string_view> holders{
-            "f", "xm:f", "c:f", "formula", "formula1", "formula2", "definedName", "calculatedColumnFormula",
-            "totalsRowFormula"};
+        static const std::set<std::string_view> holders{"f",
+                                                        "xm:f",
+                                                        "c:f",
+                                                        "formula",
+                                                        "formula1",
+                                                        "formula2",
+                                                        "definedName",
+                                                        "calculatedColumnFormula",
+                                                        "totalsRowFormula"};
         if (name == "c") cell_ = formula::parse_cell_reference(attribute(attributes, "r")).value_or(Position{});
         inside_ = holders.contains(name);
         if (!inside_) return;

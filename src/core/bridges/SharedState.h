@@ -2,7 +2,9 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "automation/AutomationError.h"
@@ -22,11 +24,13 @@ namespace kestrune::core {
 // The objects that everything in the add-in works with: one set a loaded component, shared by every iPublic and
 // iGlobal. Each reference is null until start-up has made it, and again after shut-down.
 struct SharedState {
-    SharedState(forms::Presenter& shown_by, const automation::Trace& told_to) : presenter(shown_by), trace(told_to) {}
+    SharedState(forms::Presenter& shown_by, const automation::Trace& told_to, std::string installed_in = {})
+        : presenter(shown_by), trace(told_to), installation_folder(std::move(installed_in)) {}
 
-    // What the component was wired with; both outlive it.
+    // What the component was wired with; presenter and trace outlive it.
     forms::Presenter& presenter;
     const automation::Trace& trace;
+    const std::string installation_folder;  // the component's own, where its files lie beside it
 
     std::shared_ptr<cXL> xl;
     automation::ObjectRef application;      // Excel's Application
