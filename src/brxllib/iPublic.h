@@ -24,7 +24,7 @@ class iPublic : public automation::Served<iPublic> {
     // Whether the client was registered. With its last client the library lets go of the application.
     bool unregister_client(const std::string& client_name);
 
-    [[nodiscard]] automation::ObjectRef auto_color() const { return auto_color_; }
+    [[nodiscard]] std::shared_ptr<iAutoColor> auto_color() const { return auto_color_; }
     template <Part part>
     [[nodiscard]] automation::ObjectRef object() const {
         return objects_[part];
