@@ -17,6 +17,18 @@ namespace {
 
 using automation::Value;
 
+// How many bytes of a function's word are marks that files put in front of functions newer than the format, and that
+// are known in small letters only: 12 in _xlfn._xlws.SORT. A parameter of LAMBDA (_xlpm.f) keeps its spelling.
+std::size_t marked_length(const formula::Token& token, std::string_view formula) {
+    const std::string_view word = formula.substr(token.body(), token.end() - token.body());
+    if (word.starts_with("_xlpm.")) return word.size();
+    std::size_t marks = 0;
+    for (const std::string_view mark : {"_xlfn.", "_xlws.", "_xludf."}) {
+        if (word.substr(marks).starts_with(mark)) marks += mark.size();
+    }
+    return marks;
+}
+
 constexpr std::size_t longest_text = 32'767;  // characters of a cell
 
 std::size_t characters_of(std::string_view utf8) {
@@ -118,7 +130,7 @@ std::string capitalized(std::string_view formula, formula::Notation notation) {
                               token.kind == formula::TokenKind::reference ||
                               token.kind == formula::TokenKind::boolean || token.kind == formula::TokenKind::error;
         if (!capitals) continue;
-        for (std::size_t i = token.body(); i < token.end(); ++i) {
+        for (std::size_t i = token.body() + marked_length(token, formula); i < token.end(); ++i) {
             if (text[i] >= 'a' && text[i] <= 'z') text[i] = static_cast<char>(text[i] - 'a' + 'A');
         }
     }

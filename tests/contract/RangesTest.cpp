@@ -1,11 +1,9 @@
-#include "host_objects/HostFixture.h"
+#include "contract/ContractTest.h"
 
-namespace kestrune::host {
+namespace kestrune::contract {
 namespace {
 
-class RangePlaceTest : public HostTest {};
-
-TEST_F(RangePlaceTest, SpellsAddresses) {
+TEST_F(Sure, RangesSpellAddresses) {
     const struct {
         const char* range;
         Arguments arguments;
@@ -20,16 +18,16 @@ TEST_F(RangePlaceTest, SpellsAddresses) {
         {"B2:C5", {true, true, xlR1C1}, "R2C2:R5C3"},
         {"B2", {false, false, xlR1C1}, "R[1]C[1]"},
         {"A:B", {true, true, xlR1C1}, "C1:C2"},
-        {"B2,D4", {true, true, xlA1, true}, "[Model.xlsx]Inputs!$B$2,$D$4"},
+        {"B2,D4", {true, true, xlA1, true}, "[Book1]Sheet1!$B$2,$D$4"},
     };
     for (const auto& [cells, arguments, text] : cases) EXPECT_EQ(get(range(cells), "Address", arguments), Value(text));
     EXPECT_EQ(get(range("C5"), "Address", Arguments{false, false, xlR1C1}.name("RelativeTo", range("B2"))),
               Value("R[3]C[1]"));
-    EXPECT_EQ(get(object(sheet("It's Output"), "Range", {"A1"}), "Address", Arguments{}.name("External", true)),
-              Value("'[Model.xlsx]It''s Output'!$A$1"));
+    EXPECT_EQ(get(object(sheet("Sheet2"), "Range", {"A1"}), "Address", Arguments{}.name("External", true)),
+              Value("[Book1]Sheet2!$A$1"));
 }
 
-TEST_F(RangePlaceTest, LeadsToOtherRanges) {
+TEST_F(Sure, RangesLeadToOthers) {
     const ObjectRef base = range("B2:D5");
     const struct {
         const char* member;
@@ -55,30 +53,30 @@ TEST_F(RangePlaceTest, LeadsToOtherRanges) {
     for (const auto& [member, arguments, text] : cases) {
         EXPECT_EQ(address(object(base, member, arguments)), text) << member;
     }
-    EXPECT_EQ(address(object(sheet("Inputs"), "Range", {range("D9"), "B2"})), "$B$2:$D$9");
-    EXPECT_EQ(address(object(sheet("Inputs"), "Rows", {"2:4"})), "$2:$4");
-    EXPECT_EQ(address(object(sheet("Inputs"), "Columns", {3})), "$C:$C");
+    EXPECT_EQ(address(object(sheet("Sheet1"), "Range", {range("D9"), "B2"})), "$B$2:$D$9");
+    EXPECT_EQ(address(object(sheet("Sheet1"), "Rows", {"2:4"})), "$2:$4");
+    EXPECT_EQ(address(object(sheet("Sheet1"), "Columns", {3})), "$C:$C");
     for (const auto& [member, arguments] :
          {std::pair{"Offset", Arguments{-2, 0}}, {"Resize", {0}}, {"Cells", {0, -1}}, {"Rows", {"Rate"}}}) {
         EXPECT_NE(call_refused(base, member, arguments), ok) << member;
     }
-    for (const char* text : {"Nowhere!A1", "ZZZZ1", "A0", "", "'It''s Output'!A1"}) {
-        EXPECT_EQ(call_refused(sheet("Inputs"), "Range", {text}), error_1004) << text;
+    for (const char* text : {"Nowhere!A1", "ZZZZ1", "A0", "", "Sheet2!A1"}) {
+        EXPECT_EQ(call_refused(sheet("Sheet1"), "Range", {text}), error_1004) << text;
     }
 }
 
-TEST_F(RangePlaceTest, CountsItsUnit) {
+TEST_F(Sure, RangesCountTheirUnit) {
     EXPECT_EQ(get(range("B2:D5,F1"), "Count"), Value(13));
     EXPECT_EQ(get(object(range("B2:D5"), "Rows"), "Count"), Value(4));
     EXPECT_EQ(get(object(range("B2:D5"), "Columns"), "Count"), Value(3));
     EXPECT_EQ(get(object(range("B2,D4:E5"), "Areas"), "Count"), Value(2));
     EXPECT_EQ(address(object(range("B2,D4:E5"), "Areas", {2})), "$D$4:$E$5");
-    const ObjectRef all = object(sheet("Inputs"), "Cells");
-    EXPECT_EQ(call_refused(all, "Count"), automation::hresult::overflow);
+    const ObjectRef all = object(sheet("Sheet1"), "Cells");
+    EXPECT_EQ(call_refused(all, "Count"), hresult::overflow);
     EXPECT_EQ(get(all, "CountLarge"), Value(17179869184.0));
 }
 
-TEST_F(RangePlaceTest, FindsFilledCells) {
+TEST_F(Sure, RangesFindFilledCells) {
     put(range("B2:C4"), "Value", 1);
     put(range("D5"), "Value", 1);
     put(range("B8"), "Value", 1);
@@ -95,18 +93,18 @@ TEST_F(RangePlaceTest, FindsFilledCells) {
     for (const auto& [from, direction, to] : cases) {
         EXPECT_EQ(address(object(range(from), "End", {direction})), to) << from;
     }
-    EXPECT_EQ(address(object(sheet("Inputs"), "UsedRange")), "$B$2:$D$8");
+    EXPECT_EQ(address(object(sheet("Sheet1"), "UsedRange")), "$B$2:$D$8");
 }
 
-TEST_F(RangePlaceTest, ResolvesNames) {
+TEST_F(Sure, RangesResolveNames) {
     const ObjectRef names = object(application, "Names");
-    call(names, "Add", {"Rates", "=Inputs!$B$2:$C$3"});
-    call(names, "Add", {"Far", "='It''s Output'!$A$1"});
+    call(names, "Add", {"Rates", "=Sheet1!$B$2:$C$3"});
+    call(names, "Add", {"Far", "=Sheet2!$A$1"});
     EXPECT_EQ(address(range("rates")), "$B$2:$C$3");
     EXPECT_EQ(address(range("Rates,E5")), "$B$2:$C$3,$E$5");
     EXPECT_EQ(address(object(application, "Range", {"Far"})), "$A$1");
-    EXPECT_EQ(call_refused(sheet("Inputs"), "Range", {"Far"}), error_1004) << "it is on another sheet";
+    EXPECT_EQ(call_refused(sheet("Sheet1"), "Range", {"Far"}), error_1004) << "it is on another sheet";
 }
 
 }  // namespace
-}  // namespace kestrune::host
+}  // namespace kestrune::contract

@@ -1,20 +1,12 @@
-#include "host_objects/HostFixture.h"
+#include "contract/ContractTest.h"
 
-namespace kestrune::host {
+namespace kestrune::contract {
 namespace {
 
-class ConditionsTest : public HostTest {
-  protected:
-    static ObjectRef conditions(const ObjectRef& range) { return object(range, "FormatConditions"); }
-    static ObjectRef condition(const ObjectRef& range, std::int32_t index) {
-        return automation::to_object(call(conditions(range), "Item", {index}));
-    }
-};
-
-TEST_F(ConditionsTest, AddsRulesInOrder) {
+TEST_F(Sure, ConditionsAreAddedInOrder) {
     const ObjectRef all = conditions(range("B2:C3"));
     const ObjectRef first =
-        automation::to_object(call(all, "Add", Arguments{}.name("Type", 1).name("Operator", 5).name("Formula1", "1")));
+        to_object(call(all, "Add", Arguments{}.name("Type", 1).name("Operator", 5).name("Formula1", "1")));
     put(object(first, "Font"), "Color", 255);
     call(all, "Add", {1, 1, "0.00001", ".99999"});
     call(all, "Add", {1, 6, "0", Missing{}});
@@ -32,7 +24,7 @@ TEST_F(ConditionsTest, AddsRulesInOrder) {
     EXPECT_EQ(call_refused(condition(range("B2"), 3), "Formula2"), error_1004);
 }
 
-TEST_F(ConditionsTest, DeleteTakesTheRangeOnly) {
+TEST_F(Sure, ConditionsAreDeletedFromTheRangeOnly) {
     call(conditions(range("A1:C3")), "Add", {2, Missing{}, "=A1>1"});
     call(conditions(range("B2")), "Delete");
     EXPECT_EQ(get(conditions(range("B2")), "Count"), Value(0));
@@ -43,13 +35,13 @@ TEST_F(ConditionsTest, DeleteTakesTheRangeOnly) {
     EXPECT_EQ(call_refused(rule, "Type"), error_1004) << "it has been deleted";
 }
 
-TEST_F(ConditionsTest, ReferencesCountFromTheActiveCell) {
+TEST_F(Likely, ConditionsCountReferencesFromTheActiveCell) {
     call(range("B5"), "Select");
     call(conditions(range("B2:B9")), "Add", {2, Missing{}, "=$A5>B4"});
     EXPECT_EQ(get(condition(range("B2"), 1), "Formula1"), Value("=$A2>B1"));
 }
 
-TEST_F(ConditionsTest, PrioritiesStayUnique) {
+TEST_F(Sure, ConditionsKeepPrioritiesUnique) {
     const ObjectRef all = conditions(range("A1"));
     for (const char* limit : {"1", "2", "3"}) call(all, "Add", {1, 5, limit});
     call(condition(range("A1"), 3), "SetFirstPriority");
@@ -57,13 +49,13 @@ TEST_F(ConditionsTest, PrioritiesStayUnique) {
     for (const int i : {1, 2, 3}) {
         const ObjectRef rule = condition(range("A1"), i);
         EXPECT_EQ(get(rule, "Priority"), Value(i));
-        order += automation::to_text(get(rule, "Formula1"));
+        order += to_text(get(rule, "Formula1"));
     }
     EXPECT_EQ(order, "=3=1=2");
 }
 
-TEST_F(ConditionsTest, FormatsOverTheCells) {
-    const ObjectRef rule = automation::to_object(call(conditions(range("A1")), "Add", {10}));
+TEST_F(Likely, ConditionsFormatOverTheCells) {
+    const ObjectRef rule = to_object(call(conditions(range("A1")), "Add", {10}));
     EXPECT_EQ(get(rule, "Formula1"), Value("=LEN(TRIM(A1))=0"));
     put(object(rule, "Interior"), "Color", 65535);
     put(object(rule, "Font"), "Bold", true);
@@ -76,8 +68,8 @@ TEST_F(ConditionsTest, FormatsOverTheCells) {
     EXPECT_EQ(get(interior(range("A1")), "ColorIndex"), Value(xlNone)) << "the cell's own fill is another matter";
 }
 
-TEST_F(ConditionsTest, DrawsThinLines) {
-    const ObjectRef rule = automation::to_object(call(conditions(range("A1")), "Add", {1, 5, "1"}));
+TEST_F(Likely, ConditionsDrawThinLines) {
+    const ObjectRef rule = to_object(call(conditions(range("A1")), "Add", {1, 5, "1"}));
     const ObjectRef lines = object(rule, "Borders");
     EXPECT_EQ(get(lines, "LineStyle"), Value(Null{}));
     put(object(lines, "Item", {xlBottom}), "ColorIndex", 3);
@@ -91,17 +83,17 @@ TEST_F(ConditionsTest, DrawsThinLines) {
     EXPECT_EQ(call_refused(lines, "Item", {xlInsideVertical}), error_1004);
 }
 
-TEST_F(ConditionsTest, RefusesWhatItCannotMake) {
+TEST_F(Sure, ConditionsRefuseWhatTheyCannotMake) {
     const ObjectRef all = conditions(range("A1"));
     EXPECT_EQ(call_refused(all, "Add", {1, 5, "=1+"}), error_1004);
     EXPECT_EQ(call_refused(all, "Add", {1, 9, "1"}), error_1004);
     EXPECT_EQ(call_refused(all, "Add", {1, xlBetween, "1"}), error_1004);
     EXPECT_EQ(call_refused(all, "Add", {3}), error_1004);
-    EXPECT_EQ(call_refused(all, "Item", {1}), automation::hresult::bad_index);
-    inputs_sheet->protection().on = true;
+    EXPECT_EQ(call_refused(all, "Item", {1}), hresult::bad_index);
+    call(sheet("Sheet1"), "Protect");
     EXPECT_EQ(call_refused(all, "Add", {1, 5, "1"}), error_1004);
     EXPECT_EQ(get(all, "Count"), Value(0));
 }
 
 }  // namespace
-}  // namespace kestrune::host
+}  // namespace kestrune::contract
