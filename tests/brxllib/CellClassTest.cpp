@@ -13,7 +13,10 @@ class NamesOnly : public automation::Object {
     explicit NamesOnly(int& asked) : asked_(asked) {}
     automation::Value invoke(std::string_view member, automation::Call, automation::Arguments& arguments) override {
         if (member == "RefersTo") return meaning_;
+        if (member == "ListObjects") return std::make_shared<NamesOnly>(*this, true, true);
+        if (member == "Name") return "Own";
         if (member == "Item") {
+            if (tables_ && automation::to_text(arguments.positional[0]) == "Own") return shared_from_this();
             ++asked_;
             const std::string name = automation::to_text(arguments.positional[0]);
             for (const auto& [known, of_workbook, meaning] : names) {
@@ -26,7 +29,8 @@ class NamesOnly : public automation::Object {
         if (member == "Names") return shared_from_this();
         return std::make_shared<NamesOnly>(*this, true);  // the workbook
     }
-    NamesOnly(const NamesOnly& other, bool workbook) : workbook_(workbook), asked_(other.asked_) {}
+    NamesOnly(const NamesOnly& other, bool workbook, bool tables = false)
+        : workbook_(workbook), tables_(tables), asked_(other.asked_) {}
     [[nodiscard]] std::string_view type_name() const override { return "Worksheet"; }
 
   private:
@@ -43,6 +47,7 @@ class NamesOnly : public automation::Object {
     };
 
     bool workbook_ = false;
+    bool tables_ = false;
     std::string_view meaning_;
     int& asked_;
 };
@@ -66,7 +71,9 @@ TEST_F(CellClasses, FormulasByWhatTheyTakeFrom) {
         {"=SUM(A1:A9)", Formula},
         {"=Model!A1", Formula},
         {"='model'!A1*B1", Formula},
-        {"=Table1[Amount]", Formula},
+        {"=SUM(Own[Amount])", Formula},
+        {"=[@Amount]*Rate", Formula},
+        {"=SUM(Sales[Amount])", SheetLink},
         {"=#REF!+A1", Formula},
         {"=#REF!", Formula},
         {"=TODAY()", Formula},

@@ -15,7 +15,7 @@ namespace kestrune::brxllib {
 //
 //   Hyperlink     a link made with Insert Link, or a formula with HYPERLINK()
 //   WorkbookLink  a formula that takes from another workbook or program: [Book.xlsx]S!A1, a name for such cells, DDE
-//   SheetLink     ... from another sheet: S!A1, S1:S3!A1, a name for cells of another sheet
+//   SheetLink     ... from another sheet: S!A1, S1:S3!A1, a name or a table of another sheet
 //   PartialInput  ... with cells or names in it and a number that somebody assumed (holds_hard_coded_number): =A1*1.05
 //   Formula       any other formula
 //   Input         a number, a truth value or an error that was typed; a formula of constants: =5+3, =DATE(2026,1,31)
@@ -25,7 +25,7 @@ namespace kestrune::brxllib {
 //
 // A link says more than the numbers beside it: =Inputs!B5*12 is a SheetLink. A formula of constants that looks up
 // where or when it is (ROW, TODAY, INDIRECT ...) is a Formula, or a PartialInput when it holds a number. A reference to
-// the formula's own sheet by its name is no link. A table's cells count as cells of the formula's own sheet.
+// the formula's own sheet by its name is no link; a table of another sheet is one.
 enum class CellClass : std::uint8_t {
     Empty,
     Text,

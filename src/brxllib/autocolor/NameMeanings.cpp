@@ -12,9 +12,25 @@ Sources NameMeanings::sources_of_names(std::string_view formula) {
     formula::Lexer lexer(formula);
     for (auto token = lexer.next(); token.kind != formula::TokenKind::end; token = lexer.next()) {
         // A name behind a sheet or a book says itself where it is.
-        if (token.kind == formula::TokenKind::name && token.prefix == 0) found |= of_name(token.text(formula));
+        if (token.prefix != 0) continue;
+        const std::string_view text = token.text(formula);
+        if (token.kind == formula::TokenKind::name) found |= of_name(text);
+        if (token.kind == formula::TokenKind::structured) found |= of_table(text.substr(0, text.find('[')));
     }
     return found;
+}
+
+Sources NameMeanings::of_table(std::string_view name) {
+    // [@Column] is of the table that the formula stands in.
+    if (name.empty()) return {};
+    if (const auto known = tables_.find(name); known != tables_.end()) return known->second;
+    const automation::Trace nobody;
+    const automation::ResumeNext attempt(nobody);
+    excel::ListObjects tables;
+    const bool lists_tables = attempt.assign(tables, [&] { return sheet_.ListObjects(); });
+    const bool own = attempt([&] { (void)tables.Item(name).Name(); });
+    // Where tables are not listed, one is taken to be the sheet's own.
+    return tables_.emplace(name, Sources{lists_tables && !own, false}).first->second;
 }
 
 Sources NameMeanings::of_name(std::string_view name) {

@@ -22,8 +22,8 @@ struct Sources {
     }
 };
 
-// What the names in a sheet's formulas lead to. Each is looked up in Excel once: the sheet's own, else the workbook's.
-// What is no name (a table, a parameter of LET, a function of another add-in) leads nowhere.
+// What the names and tables in a sheet's formulas lead to. Each is looked up in Excel once: the sheet's own, else the
+// workbook's. What is no name (a parameter of LET, a function of another add-in) leads nowhere.
 class NameMeanings {
   public:
     // sheet_name: the sheet's, without apostrophes.
@@ -31,16 +31,18 @@ class NameMeanings {
         : sheet_(std::move(sheet)), sheet_name_(std::move(sheet_name)) {}
 
     [[nodiscard]] const std::string& sheet_name() const { return sheet_name_; }
-    // Of all names in a formula, and of the names that these refer to.
+    // Of all names and tables in a formula, and of the names that these names refer to.
     [[nodiscard]] Sources sources_of_names(std::string_view formula);
 
   private:
     [[nodiscard]] Sources of_name(std::string_view name);
+    [[nodiscard]] Sources of_table(std::string_view name);
     [[nodiscard]] std::string refers_to(std::string_view name) const;
 
     excel::Worksheet sheet_;
     std::string sheet_name_;
     std::map<std::string, Sources, automation::TextLess> known_;
+    std::map<std::string, Sources, automation::TextLess> tables_;
 };
 
 }  // namespace kestrune::brxllib
