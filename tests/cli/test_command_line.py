@@ -49,6 +49,27 @@ class CommandLineTest(unittest.TestCase):
 
 
 class Running(CommandLineTest):
+    def test_the_examples_open_beside_the_workbook_and_stay_as_they_are(self):
+        program = self.folder / "bin" / "kestrune"
+        program.parent.mkdir()
+        shutil.copy(KESTRUNE, program)
+        out = self.folder / "out.xlsx"
+        steps = ("run", self.book, "-o", out, "ShowExamplesWorkbook", "@Inputs", "20", "--json")
+        without = subprocess.run([program, *steps], capture_output=True, text=True, timeout=120)
+        shown = json.loads(without.stdout)[0]["messages"]
+        self.assertEqual([message["text"][-21:] for message in shown], ["Kestrune Examples.xls"])
+
+        examples = self.folder / "share" / "kestrune" / "Files" / "Kestrune Examples.xls"
+        examples.parent.mkdir(parents=True)
+        shutil.copy(EXAMPLE, examples)
+        result = subprocess.run([program, *steps], capture_output=True, text=True, timeout=120)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(json.loads(result.stdout)[0]["messages"], [])
+        self.assertIn("'Kestrune Examples.xls'!mPublic.Init", result.stderr, "no VBA runs here, and that is told")
+        sheet = openpyxl.load_workbook(out)["Model"]
+        self.assertEqual(sheet["B2"].number_format, "[$$-409]#,##0_);([$$-409]#,##0)")
+        self.assertEqual(examples.read_bytes(), EXAMPLE.read_bytes())
+
     def test_a_session_formats_what_is_selected_and_nothing_else(self):
         out = self.folder / "out.xlsx"
         self.run_ok("run", self.book, "-o", out, "@Inputs", "20", "20", "@Model!D:D", "21.2", "@A5:B5,D1", "29.1")
