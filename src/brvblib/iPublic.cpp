@@ -7,6 +7,7 @@
 #include "brvblib/iProduct.h"
 #include "brvblib/iScreen.h"
 #include "brvblib/iString.h"
+#include "brvblib/iXML.h"
 
 namespace kestrune::brvblib {
 
@@ -20,7 +21,8 @@ iPublic::iPublic(std::shared_ptr<Library> library)
       hot_keys_(std::make_shared<iHotKeys>(library_)),
       product_(std::make_shared<iProduct>(library_)),
       screen_(std::make_shared<iScreen>(library_)),
-      string_(std::make_shared<iString>(library_)) {}
+      string_(std::make_shared<iString>(library_)),
+      xml_(std::make_shared<iXML>(library_)) {}
 
 bool iPublic::unregister_client(const std::string& client_name) {
     library_->hot_key_callbacks.erase(client_name);
@@ -35,7 +37,7 @@ const MemberTable& iPublic::members() {
         method<&iPublic::unregister_client>("UnregisterClient", 2, "ClientName"),
         read_only<&iPublic::constants>("iConst", 3), read_only<&iPublic::hot_keys>("iHotKeys", 8),
         read_only<&iPublic::product>("iProduct", 10), read_only<&iPublic::screen>("iScreen", 11),
-        read_only<&iPublic::strings>("iString", 13));
+        read_only<&iPublic::strings>("iString", 13), read_only<&iPublic::xml>("iXML", 15));
     static constexpr MemberTable table("iPublic", rows);
     return table;
 }

@@ -25,6 +25,7 @@ class iPublic : public automation::Served<iPublic> {
     [[nodiscard]] automation::ObjectRef product() const { return product_; }
     [[nodiscard]] automation::ObjectRef screen() const { return screen_; }
     [[nodiscard]] automation::ObjectRef strings() const { return string_; }
+    [[nodiscard]] automation::ObjectRef xml() const { return xml_; }
 
     std::shared_ptr<Library> library_;
     automation::ObjectRef const_;
@@ -32,6 +33,7 @@ class iPublic : public automation::Served<iPublic> {
     automation::ObjectRef product_;
     automation::ObjectRef screen_;
     automation::ObjectRef string_;
+    automation::ObjectRef xml_;
 };
 
 }  // namespace kestrune::brvblib

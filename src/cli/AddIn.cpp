@@ -6,11 +6,16 @@
 #include "cli/Failure.h"
 #include "cli/InstallationFolder.h"
 #include "core/register_add_in.h"
+#include "native/PosixFiles.h"
+#include "native/PugiXmlParser.h"
 
 namespace kestrune::cli {
 
 AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace) {
-    brvblib::register_library({.trace = trace, .presenter = presenter});
+    brvblib::register_library({.trace = trace,
+                               .presenter = presenter,
+                               .files = std::make_shared<native::PosixFiles>(),
+                               .xml = std::make_shared<native::PugiXmlParser>()});
     brxllib::register_library(trace, {.presenter = &presenter});
     core::register_add_in(presenter, trace, installation_folder());
     public_ = automation::CreateObject("KestruneXL.iPublic");

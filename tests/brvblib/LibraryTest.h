@@ -23,8 +23,8 @@ struct LibraryTest : testing::Test {
     // Makes the library anew from the services as they stand now.
     void load() {
         register_library(services);
-        library = automation::CreateObject("BRVBLib.iPublic");
         ASSERT_TRUE(wrapper.Create());
+        library = wrapper.iPublic();
     }
     [[nodiscard]] automation::ObjectRef part(const char* name) {
         if (!library) load();

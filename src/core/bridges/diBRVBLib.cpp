@@ -75,6 +75,39 @@ bool diBRVBLib::check_numeric_field(std::string_view text, std::string_view fiel
 
 std::string diBRVBLib::name_text(std::string_view text) const { return to_text(call(String, "NameText", {text})); }
 
+void diBRVBLib::xml_clear() const { call(XML, "Clear"); }
+
+automation::ObjectRef diBRVBLib::xml_load(std::string_view path, std::string_view identifier, std::string_view name,
+                                          std::string_view latest_version) const {
+    return automation::to_object(call(XML, "Load", {path, identifier, name, latest_version}));
+}
+
+void diBRVBLib::xml_start_document(std::string_view root, std::string_view version, std::string_view identifier) const {
+    call(XML, "StartDocument", {root, version, identifier});
+}
+
+void diBRVBLib::xml_start_element(std::string_view name) const { call(XML, "StartElement", {name}); }
+
+void diBRVBLib::xml_write_leaf(std::string_view name, const automation::Value& value) const {
+    call(XML, "WriteLeaf", {name, value});
+}
+
+void diBRVBLib::xml_end_element(std::string_view name) const { call(XML, "EndElement", {name}); }
+
+automation::ObjectRef diBRVBLib::xml_find(std::string_view name, const automation::ObjectRef& under) const {
+    return automation::to_object(call(XML, "FindNode", {name, under}));
+}
+
+automation::ObjectRef diBRVBLib::xml_children(std::string_view name, const automation::ObjectRef& under) const {
+    return automation::to_object(call(XML, "ChildNodes", {name, under}));
+}
+
+bool diBRVBLib::xml_save(std::string_view path) const { return to_boolean(call(XML, "Save", {path})); }
+
+std::string diBRVBLib::xml_error() const {
+    return to_text(automation::get(automation::to_required_object(iXML()), "LastError"));
+}
+
 void diBRVBLib::place_window(std::int32_t placement) const { call(Screen, "Place", {0, placement}); }
 
 }  // namespace kestrune::core

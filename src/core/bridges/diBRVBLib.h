@@ -70,6 +70,22 @@ class diBRVBLib : public LibraryBridge {
     // A text made fit to be part of a defined name.
     [[nodiscard]] std::string name_text(std::string_view text) const;
 
+    // The XML document: see the library's iXML. Nodes are objects with MSXML's nodeName, text and nodeTypedValue, lists
+    // of them have Length and Item from 0 on; a node or document that is not there is null. When loading or saving
+    // fails, xml_error says why in one line.
+    void xml_clear() const;
+    [[nodiscard]] automation::ObjectRef xml_load(std::string_view path, std::string_view identifier,
+                                                 std::string_view name, std::string_view latest_version) const;
+    void xml_start_document(std::string_view root, std::string_view version, std::string_view identifier) const;
+    void xml_start_element(std::string_view name) const;
+    void xml_write_leaf(std::string_view name, const automation::Value& value) const;
+    void xml_end_element(std::string_view name) const;
+    [[nodiscard]] automation::ObjectRef xml_find(std::string_view name,
+                                                 const automation::ObjectRef& under = nullptr) const;
+    [[nodiscard]] automation::ObjectRef xml_children(std::string_view name, const automation::ObjectRef& under) const;
+    [[nodiscard]] bool xml_save(std::string_view path) const;
+    [[nodiscard]] std::string xml_error() const;
+
     // Places the application window: 1 maximised, 2 top half, 3 bottom half, 4 left half, 5 right half, 6 centred.
     void place_window(std::int32_t placement) const;
 
