@@ -49,6 +49,8 @@ HRESULT ComServer::QueryInterface(REFIID id, void** object) noexcept {
             *object = static_cast<IDispatch*>(this);
         } else if (id == IID_ISupportErrorInfo) {
             *object = static_cast<ISupportErrorInfo*>(this);
+        } else if (id == IID_IProvideClassInfo && library_type_info(object_->type_name())) {
+            *object = static_cast<IProvideClassInfo*>(this);
         } else if (id == IID_IConnectionPointContainer && connection_points_) {
             *object = static_cast<IConnectionPointContainer*>(connection_points_.get());
         } else if (is_own_interface(id)) {
@@ -175,6 +177,15 @@ HRESULT ComServer::Invoke(DISPID id, REFIID reserved, LCID, WORD flags, DISPPARA
 
 HRESULT ComServer::InterfaceSupportsErrorInfo(REFIID id) noexcept {
     return id == IID_IDispatch || id == IID_IUnknown ? S_OK : S_FALSE;
+}
+
+HRESULT ComServer::GetClassInfo(ITypeInfo** info) noexcept {
+    if (!info) return E_POINTER;
+    *info = nullptr;
+    return guarded([&]() -> HRESULT {
+        *info = library_class_info(object_->type_name()).Detach();
+        return *info ? S_OK : TYPE_E_ELEMENTNOTFOUND;
+    });
 }
 
 }  // namespace kestrune::windows

@@ -21,7 +21,7 @@ class ConnectionPoints;
 // One of our objects, served over IDispatch. Members have the identifiers of the class's member table, named arguments
 // the places of the parameters; an object without a table gets identifiers for names as they are asked for. Objects
 // that raise events are connectable.
-class ComServer final : public IDispatch, public ISupportErrorInfo {
+class ComServer final : public IDispatch, public ISupportErrorInfo, public IProvideClassInfo {
   public:
     // Begins with one reference, the maker's.
     explicit ComServer(automation::ObjectRef object);
@@ -46,6 +46,8 @@ class ComServer final : public IDispatch, public ISupportErrorInfo {
                                      VARIANT* result, EXCEPINFO* info, UINT* wrong) noexcept override;
 
     HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID id) noexcept override;
+    // The coclass, for a class that the module's type library describes.
+    HRESULT STDMETHODCALLTYPE GetClassInfo(ITypeInfo** info) noexcept override;
 
   private:
     ~ComServer();

@@ -45,8 +45,9 @@ class EventSink final : public RefCounted<IDispatch> {
             const automation::EventListener listener = listener_;
             if (!listener) return S_OK;
             IncomingCall call(*parameters);
-            call.read(automation::Call::Method, [](DISPID position) -> IncomingCall::Named {
-                if (position < 0) throw automation::WrongCall(DISP_E_PARAMNOTFOUND, "event", "no such argument");
+            call.read(automation::Call::Method, [&](DISPID position) -> IncomingCall::Named {
+                if (position < 0 || static_cast<UINT>(position) >= parameters->cArgs)
+                    throw automation::WrongCall(DISP_E_PARAMNOTFOUND, "event", "no such argument");
                 return {static_cast<std::size_t>(position), {}};
             });
             listener(event->name, call.arguments());

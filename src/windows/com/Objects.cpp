@@ -17,7 +17,7 @@ using automation::ObjectRef;
 
 // The servers that are out, so that an object has one identity and comes back as itself.
 struct Servers {
-    std::mutex mutex;
+    std::recursive_mutex mutex;  // a server that cannot be noted goes, and is forgotten, while it is held
     std::unordered_map<const Object*, ComServer*> by_object;
     std::unordered_set<const IDispatch*> all;
 };

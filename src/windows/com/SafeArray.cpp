@@ -23,17 +23,18 @@ using automation::Value;
 // The elements of an array in memory, for as long as this lives.
 class Elements {
   public:
-    explicit Elements(SAFEARRAY* array) : array_(array) { check(SafeArrayAccessData(array, &data_), "array"); }
+    explicit Elements(SAFEARRAY* array) : array_(array), size_(SafeArrayGetElemsize(array)) {
+        check(SafeArrayAccessData(array, &data_), "array");
+    }
     ~Elements() { SafeArrayUnaccessData(array_); }
     Elements(const Elements&) = delete;
     Elements& operator=(const Elements&) = delete;
 
-    [[nodiscard]] void* at(std::size_t position) const {
-        return static_cast<std::byte*>(data_) + position * SafeArrayGetElemsize(array_);
-    }
+    [[nodiscard]] void* at(std::size_t position) const { return static_cast<std::byte*>(data_) + position * size_; }
 
   private:
     SAFEARRAY* array_;
+    std::size_t size_;
     void* data_ = nullptr;
 };
 

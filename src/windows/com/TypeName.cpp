@@ -8,17 +8,23 @@
 
 namespace kestrune::windows {
 
+std::string type_info_name(ITypeInfo& info) {
+    BSTR name = nullptr;
+    if (FAILED(info.GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr))) return {};
+    std::string result = to_utf8({name, SysStringLen(name)});
+    SysFreeString(name);
+    return result;
+}
+
 std::string read_type_name(IDispatch& object) {
     ComPtr<ITypeInfo> type;
     ComPtr<IProvideClassInfo> classes;
     if (FAILED(object.QueryInterface(IID_PPV_ARGS(&classes))) || FAILED(classes->GetClassInfo(&type)) || !type) {
         if (FAILED(object.GetTypeInfo(0, lcid, &type)) || !type) return "Object";
     }
-    BSTR name = nullptr;
-    if (FAILED(type->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr)) || !name) return "Object";
-    std::string result = to_utf8({name, SysStringLen(name)});
-    SysFreeString(name);
-    return result.starts_with('_') ? result.substr(1) : result;
+    const std::string name = type_info_name(*type.Get());
+    if (name.empty()) return "Object";
+    return name.starts_with('_') ? name.substr(1) : name;
 }
 
 }  // namespace kestrune::windows
