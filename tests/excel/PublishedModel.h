@@ -1,7 +1,9 @@
 #pragma once
 
+#include <filesystem>
 #include <fstream>
 #include <map>
+#include <regex>
 #include <set>
 #include <string>
 #include <string_view>
@@ -66,6 +68,26 @@ inline std::map<std::string, std::set<long>> constants() {
         for (const auto& row : rows(list, 3)) constants[row[1]].insert(std::stol(row[2]));
     }
     return constants;
+}
+
+// A place in our sources that a pattern matches.
+struct Found {
+    std::string file;
+    std::vector<std::string> groups;  // the whole match first
+};
+// Of the headers and sources below src/<folder>.
+inline std::vector<Found> in_sources(const std::string& folder, const std::string& pattern) {
+    const std::regex regex(pattern);
+    std::vector<Found> all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(KESTRUNE_SOURCE_DIR "/src/" + folder)) {
+        if (entry.path().extension() != ".h" && entry.path().extension() != ".cpp") continue;
+        std::ifstream file(entry.path());
+        const std::string text{std::istreambuf_iterator<char>(file), {}};
+        for (std::sregex_iterator match(text.begin(), text.end(), regex), end; match != end; ++match) {
+            all.push_back({entry.path().filename().string(), {match->begin(), match->end()}});
+        }
+    }
+    return all;
 }
 
 }  // namespace kestrune::published

@@ -93,6 +93,8 @@ TEST(ServedMembers, AreExcels) {
         }
     }
     EXPECT_THAT(differences, testing::IsEmpty());
+    const auto declared = published::in_sources("host/objects", R"-(MemberTable table\("(\w+)")-");
+    EXPECT_EQ(std::size(tables), declared.size()) << "a table that is not in the list is not compared";
 }
 
 }  // namespace
