@@ -44,6 +44,8 @@ Caught caught() noexcept {
         } catch (const std::exception& error) {
             return {E_UNEXPECTED, {}, error.what(), false, {}};
         }
+    } catch (const std::bad_alloc&) {
+        return {E_OUTOFMEMORY, {}, {}, false, {}};
     } catch (...) {
         return {};
     }

@@ -1,5 +1,6 @@
 #include "windows/com/Objects.h"
 
+#include <memory>
 #include <mutex>
 #include <unordered_map>
 #include <unordered_set>
@@ -23,8 +24,9 @@ struct Servers {
 };
 
 Servers& servers() {
-    static Servers known;
-    return known;
+    // It never goes: a client may let go of its last object after the module's own statics went.
+    static Servers* const known = std::make_unique<Servers>().release();
+    return *known;
 }
 
 }  // namespace
