@@ -168,6 +168,9 @@ TEST(HardCodedNumbers, AreAssumptionsOnly) {
                                 "=ROUND(A1*1.2,2)",
                                 "=VLOOKUP(A1,B:D,1+2,0)",
                                 "=A1+100%",
+                                "=A1-1",
+                                "=IF(A1/B1>2,C1-1,0)",
+
                                 "=-1+A1",
                                 "=PMT(A1,360,B1)"})
         EXPECT_TRUE(holds_hard_coded_number(formula)) << formula;
@@ -183,6 +186,10 @@ TEST(HardCodedNumbers, AreAssumptionsOnly) {
                                 "=B1*(C1+1)",
                                 "=1-A1",
                                 "=1/A1",
+                                "=B1/A1-1",
+                                "=SUM(B1:B4)/SUM(A1:A4)-1",
+                                "=IF(A1=0,0,(B1/A1)-1)",
+                                "=(B1/A1)^C1-100%",
                                 "=100%-A1",
                                 "=EOMONTH(A1,3)",
                                 "=DATE(YEAR(A1),12,31)",

@@ -151,6 +151,18 @@ class Scan {
         return value;
     }
 
+    // Whether what ends before a place, within its parentheses, argument and comparison, is divided or raised.
+    [[nodiscard]] bool holds_ratio_before(std::size_t at) const {
+        int depth = 0;
+        while (at-- > 0) {
+            if (kind(at) == TokenKind::close) ++depth;
+            if (kind(at) == TokenKind::open && depth-- == 0) return false;
+            if (sign(at) == "/" || sign(at) == "^") return true;
+            if (depth == 0 && (kind(at) == TokenKind::comma || compares(at))) return false;
+        }
+        return false;
+    }
+
     [[nodiscard]] bool assumed(std::size_t number) const {
         std::size_t before = number;  // of the operand with its signs
         while (before > 0 && tokens_[before - 1].kind == TokenKind::prefix) --before;
@@ -174,6 +186,7 @@ class Scan {
         if (value != 1 || is_signed) return true;
         const std::string_view next = sign(after);
         if (opens && (next == "+" || next == "-" || next == "/")) return false;
+        if (before > 0 && sign(before - 1) == "-" && holds_ratio_before(before - 1)) return false;
         const bool closes_sum = before > 0 && sign(before - 1) == "+" && right == TokenKind::close;
         return !(closes_sum && frame.parenthesis && frame.function.empty());
     }
