@@ -40,9 +40,7 @@ void cut_a_formula(benchmark::State& state) {
 BENCHMARK(cut_a_formula);
 
 void ingredients_of_a_formula(benchmark::State& state) {
-    over_formulas(state, [](std::string_view text) {
-        benchmark::DoNotOptimize(formula::ingredients(text, "Cash"));
-    });
+    over_formulas(state, [](std::string_view text) { benchmark::DoNotOptimize(formula::ingredients(text, "Cash")); });
 }
 BENCHMARK(ingredients_of_a_formula);
 

@@ -8,7 +8,9 @@ namespace kestrune::formula {
 
 std::string to_r1c1(std::string_view a1_formula, Position base) {
     return rewrite_references(a1_formula, Notation::a1, [&](const Token& token, std::string& out) {
-        append_r1c1(out, to_distances(token.reference, base));
+        // In A:A:C:D the first pair must stay one: C1:C3:C4 would read as C1:C3 and C4.
+        const bool before_range = token.end() < a1_formula.size() && a1_formula[token.end()] == ':';
+        append_r1c1(out, to_distances(token.reference, base), before_range);
     });
 }
 

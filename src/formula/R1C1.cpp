@@ -63,13 +63,13 @@ bool match_part(std::string_view text, std::size_t& at, Shape& shape, Coordinate
 
 }  // namespace
 
-void append_r1c1(std::string& out, const Reference& reference) {
+void append_r1c1(std::string& out, const Reference& reference, bool in_full) {
     if (reference.has_rows()) append(out, 'R', reference.first_row);
     if (reference.has_columns()) append(out, 'C', reference.first_column);
     // One whole row or column is R3, not R3:R3.
     const bool same = reference.shape != Shape::cells && reference.first_row == reference.last_row &&
                       reference.first_column == reference.last_column;
-    if (!reference.range || same) return;
+    if (!reference.range || (same && !in_full)) return;
     out += ':';
     if (reference.has_rows()) append(out, 'R', reference.last_row);
     if (reference.has_columns()) append(out, 'C', reference.last_column);

@@ -7,8 +7,9 @@
 
 namespace kestrune::formula {
 
-// Adds a reference whose relative coordinates are distances: R1C1, R[-1]C, R2:R5, C[3].
-void append_r1c1(std::string& out, const Reference& reference);
+// Adds a reference whose relative coordinates are distances: R1C1, R[-1]C, R2:R5, C[3]. In full, one whole row or
+// column is C[3]:C[3].
+void append_r1c1(std::string& out, const Reference& reference, bool in_full = false);
 
 // Reads the longest R1C1 reference that `text` starts with, in either case. Gives its length in bytes, or 0 for none.
 // Relative coordinates become distances.

@@ -56,6 +56,25 @@ TEST_F(Sure, StandardWidthIsTheWidthOfOtherColumns) {
     EXPECT_EQ(refused(inputs, "StandardWidth", 256), error_1004);
 }
 
+TEST_F(Sure, RowsAndColumnsAreGroupedInEightLevels) {
+    for (int level = 2; level <= 8; ++level) {
+        call(range("3:5"), "Group");
+        EXPECT_EQ(get(range("3:5"), "OutlineLevel"), Value(level));
+    }
+    EXPECT_EQ(call_refused(range("5:6"), "Group"), error_1004);
+    EXPECT_EQ(get(range("6:6"), "OutlineLevel"), Value(1)) << "nothing has changed";
+    call(object(range("B1:C1"), "EntireColumn"), "Group");
+    call(range("C:D"), "Group");
+    EXPECT_EQ(get(range("C:C"), "OutlineLevel"), Value(3));
+    call(range("B:D"), "Ungroup");
+    EXPECT_EQ(get(range("B:B"), "OutlineLevel"), Value(1));
+    EXPECT_EQ(get(range("C:C"), "OutlineLevel"), Value(2));
+    EXPECT_EQ(call_refused(range("F:F"), "Ungroup"), error_1004);
+    call(object(sheet("Sheet1"), "Outline"), "ShowLevels", Arguments{}.name("ColumnLevels", 1));
+    EXPECT_EQ(get(range("C:C"), "Hidden"), Value(true));
+    EXPECT_EQ(get(range("3:3"), "Hidden"), Value(false));
+}
+
 TEST_F(Sure, OutlinesShowTheirLevels) {
     put(range("2:6"), "OutlineLevel", 2);
     put(range("3:4"), "OutlineLevel", 3);

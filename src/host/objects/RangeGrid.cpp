@@ -174,6 +174,49 @@ void RangeObject::set_outline_level(std::int32_t level) {
     cells_.changed();
 }
 
+void RangeObject::change_outline(std::string_view member, std::int32_t step) {
+    Sheet& sheet = cells_.sheet();
+    const bool rows = std::ranges::all_of(cells_.areas(), &Area::whole_rows);
+    if (!rows && !std::ranges::all_of(cells_.areas(), &Area::whole_columns)) {
+        refuse(member, "whole rows or whole columns are grouped");
+    }
+    require_allowed(sheet, false, member);
+    // Looked through before anything changes.
+    std::int32_t deepest = 0;
+    for (const Area& area : cells_.areas()) {
+        for (std::int32_t i = rows ? area.first_row : area.first_column; i <= (rows ? area.last_row : area.last_column);
+             ++i) {
+            const RowFormat* format = rows ? sheet.row_format(i) : nullptr;
+            const std::int32_t level =
+                rows ? (format ? format->outline_level : 0) : sheet.columns().at(i).outline_level;
+            deepest = std::max(deepest, level);
+        }
+    }
+    if (deepest + step >= most_levels) refuse(member, "an outline has 8 levels");
+    if (deepest + step < 0) refuse(member, "nothing is grouped here");
+    const auto moved = [&](std::uint8_t level) { return static_cast<std::uint8_t>(std::max(level + step, 0)); };
+    for (const Area& area : cells_.areas()) {
+        if (rows) {
+            sheet.change_rows(area.first_row, area.last_row,
+                              [&](RowFormat& row) { row.outline_level = moved(row.outline_level); });
+        } else {
+            sheet.columns().change(area.first_column, area.last_column,
+                                   [&](ColumnRun& run) { run.outline_level = moved(run.outline_level); });
+        }
+    }
+    cells_.changed();
+}
+
+void RangeObject::group(const Value& start, const Value& end, const Value& by, const Value& periods) {
+    constexpr std::string_view member = "Range.Group";
+    for (const Value* argument : {&start, &end, &by, &periods}) {
+        if (!argument->is(Value::Kind::Missing)) refuse(member, "the host groups rows and columns, not pivot fields");
+    }
+    change_outline(member, 1);
+}
+
+void RangeObject::ungroup() { change_outline("Range.Ungroup", -1); }
+
 Value RangeObject::merge_cells() const {
     Sheet& sheet = cells_.sheet();
     std::int64_t merged = 0;

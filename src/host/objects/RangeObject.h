@@ -120,6 +120,9 @@ class RangeObject final : public HostObject<RangeObject> {
     void set_hidden(bool on);
     [[nodiscard]] Value outline_level() const;  // 1 to 8
     void set_outline_level(std::int32_t level);
+    // Whole rows or columns one level deeper or up; error 1004 past the eighth level and where no group is.
+    void group(const Value& start, const Value& end, const Value& by, const Value& periods);
+    void ungroup();
     [[nodiscard]] Value merge_cells() const;
     void set_merge_cells(bool on);
     [[nodiscard]] ObjectRef merge_area() const;
@@ -137,6 +140,7 @@ class RangeObject final : public HostObject<RangeObject> {
     void write_format(std::string_view member, const std::function<void(CellFormat&)>& change) const {
         cells_.restyle(member, [&](StyleId id) { return cells_.styles().with_format(id, change); });
     }
+    void change_outline(std::string_view member, std::int32_t step);
     // Whether the range counts as columns where rows and columns have the same property.
     [[nodiscard]] bool of_columns() const;
 
