@@ -17,7 +17,19 @@ class iPublic : public automation::Served<iPublic> {
     static const automation::MemberTable& members();
 
   private:
-    enum Part : std::size_t { Const, Display, Formula, Product, Range, UndoRedo, Workbook, Worksheet, parts };
+    enum Part : std::size_t {
+        Const,
+        Control,
+        Display,
+        Formula,
+        Menu,
+        Product,
+        Range,
+        UndoRedo,
+        Workbook,
+        Worksheet,
+        parts
+    };
 
     // The Excel application that the library works in.
     void set_application(const automation::ObjectRef& application);

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "excel/CommandBars.h"
 #include "excel/Range.h"
 #include "excel/Window.h"
 #include "excel/Workbooks.h"
@@ -20,6 +21,7 @@ class Application : public Facade<Application> {
         {"ActiveWorkbook", Access::get},
         {"Calculation", Access::get_put},
         {"CutCopyMode", Access::get_put},
+        {"CommandBars", Access::get},
         {"Goto", Access::method, "Reference Scroll"},
         {"Height", Access::get_put},
         {"Intersect", Access::method,
@@ -51,6 +53,7 @@ class Application : public Facade<Application> {
     void Calculation(std::int32_t mode) const { put("Calculation", mode); }
     // Whether copied or cut cells wait to be pasted, with a moving border around them.
     [[nodiscard]] bool CutCopyMode() const { return get<bool>("CutCopyMode"); }
+    [[nodiscard]] excel::CommandBars CommandBars() const { return get<excel::CommandBars>("CommandBars"); }
     void Goto(const Range& reference) const { call("Goto", reference.object()); }
     // The cells that two ranges of one sheet share; Nothing when they share none.
     [[nodiscard]] Range Intersect(const Range& one, const Range& other) const {

@@ -69,6 +69,17 @@ inline constexpr std::int32_t xlNormal = -4143;
 // XlSheetVisibility
 inline constexpr std::int32_t xlSheetVisible = -1;
 
+// MsoControlType
+inline constexpr std::int32_t msoControlButton = 1;
+inline constexpr std::int32_t msoControlPopup = 10;
+
+// MsoButtonState
+inline constexpr std::int32_t msoButtonDown = -1;
+inline constexpr std::int32_t msoButtonUp = 0;
+
+// MsoBarPosition
+inline constexpr std::int32_t msoBarTop = 1;
+
 // XlLink
 inline constexpr std::int32_t xlExcelLinks = 1;
 

@@ -29,6 +29,10 @@
 #include "host/objects/WorkbookObject.h"
 #include "host/objects/WorkbooksObject.h"
 #include "host/objects/WorksheetObject.h"
+#include "host/objects/bars/CommandBarObject.h"
+#include "host/objects/bars/CommandBarsObject.h"
+#include "host/objects/bars/ControlObject.h"
+#include "host/objects/bars/ControlsObject.h"
 
 namespace kestrune::host {
 namespace {
@@ -56,6 +60,10 @@ TEST(ServedMembers, AreExcels) {
         &ConditionBordersObject::members(),
         &ConditionFontObject::members(),
         &ConditionInteriorObject::members(),
+        &ButtonObject::members(),
+        &CommandBarObject::members(),
+        &CommandBarsObject::members(),
+        &ControlsObject::members(),
         &FontObject::members(),
         &FormatConditionObject::members(),
         &FormatConditionsObject::members(),
@@ -66,6 +74,7 @@ TEST(ServedMembers, AreExcels) {
         &NamesObject::members(),
         &OutlineObject::members(),
         &ProtectionObject::members(),
+        &PopupObject::members(),
         &RangeObject::members(),
         &SheetsObject::members(),
         &WindowObject::members(),

@@ -30,6 +30,11 @@ std::vector<CellLink> links_of(const automation::Value& answer) {
     return links;
 }
 
+automation::Value optional(std::optional<std::int32_t> number) {
+    if (!number) return automation::Missing{};
+    return *number;
+}
+
 std::vector<std::string> texts_of(const automation::Value& answer) {
     std::vector<std::string> texts;
     if (const automation::Array* array = answer.array()) {
@@ -114,6 +119,63 @@ std::vector<std::string> diBRXLLib::unused_number_formats(const ObjectRef& workb
     automation::Array codes(automation::Array::Bound{1, static_cast<std::int32_t>(in_use.size())});
     std::ranges::copy(in_use, codes.elements().begin());
     return texts_of(call(Workbook, "UnusedNumberFormats", {workbook, codes}));
+}
+
+ObjectRef diBRXLLib::worksheet_menu_bar() const { return automation::to_object(call(Menu, "WorksheetMenuBar")); }
+
+ObjectRef diBRXLLib::toolbar(std::string_view name) const {
+    return automation::to_object(call(Menu, "Toolbar", {name}));
+}
+
+bool diBRXLLib::remove_toolbar(std::string_view name) const {
+    return automation::to_boolean(call(Menu, "RemoveToolbar", {name}));
+}
+
+ObjectRef diBRXLLib::add_popup(const ObjectRef& parent, std::string_view caption, std::string_view on_action,
+                               std::string_view tag, bool begin_group, std::optional<std::int32_t> before) const {
+    return automation::to_object(
+        call(Menu, "AddPopup", {parent, caption, on_action, tag, begin_group, optional(before)}));
+}
+
+ObjectRef diBRXLLib::add_button(const ObjectRef& parent, const ButtonDesign& design) const {
+    return automation::to_object(
+        call(Menu, "AddButton",
+             {parent, design.caption, design.on_action, design.parameter, optional(design.face_id), design.begin_group,
+              design.tag, optional(design.before), design.shortcut}));
+}
+
+std::int32_t diBRXLLib::clear_controls(const ObjectRef& parent) const {
+    return automation::to_integer(call(Menu, "Clear", {parent}));
+}
+
+std::int32_t diBRXLLib::remove_controls(const ObjectRef& parent, std::string_view caption) const {
+    return automation::to_integer(call(Menu, "Remove", {parent, caption}));
+}
+
+ObjectRef diBRXLLib::find_control(const ObjectRef& parent, std::string_view caption) const {
+    return automation::to_object(call(Control, "Find", {parent, caption}));
+}
+
+ObjectRef diBRXLLib::find_control_by_tag(std::string_view tag) const {
+    return automation::to_object(call(Control, "FindByTag", {tag}));
+}
+
+std::string diBRXLLib::clicked_parameter() const { return automation::to_text(call(Control, "ClickedParameter")); }
+
+void diBRXLLib::set_control_enabled(const ObjectRef& control, bool enabled) const {
+    call(Control, "SetEnabled", {control, enabled});
+}
+
+void diBRXLLib::set_control_checked(const ObjectRef& button, bool checked) const {
+    call(Control, "SetChecked", {button, checked});
+}
+
+void diBRXLLib::set_control_caption(const ObjectRef& control, std::string_view caption) const {
+    call(Control, "SetCaption", {control, caption});
+}
+
+void diBRXLLib::set_control_tooltip(const ObjectRef& control, std::string_view text) const {
+    call(Control, "SetTooltip", {control, text});
 }
 
 void diBRXLLib::display_array(const automation::Value& array, std::string_view title) const {

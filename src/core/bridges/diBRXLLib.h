@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -22,6 +23,18 @@ struct CellLink {
     std::int32_t position = 1;  // of the text in the formula, and its length, in characters as Visual Basic counts
     std::int32_t length = 0;
     std::string formula;  // the cell's own for precedents, the other end's for dependents
+};
+
+// What a new button is to be like.
+struct ButtonDesign {
+    std::string caption;
+    std::string on_action;  // the macro that it runs
+    std::string parameter{};
+    std::string tag{};
+    std::string shortcut{};                 // shown beside the caption
+    std::optional<std::int32_t> face_id{};  // the number of one of Office's icons
+    bool begin_group = false;               // a line in front of it
+    std::optional<std::int32_t> before{};   // a position from 1; else at the end
 };
 
 // The spreadsheet library: what workbooks, sheets, cells and formulas hold. The typed calls fail as automation calls
@@ -83,6 +96,31 @@ class diBRXLLib : public LibraryBridge {
     // The custom number formats of a workbook that neither the given codes nor anything but cells has in use.
     [[nodiscard]] std::vector<std::string> unused_number_formats(const automation::ObjectRef& workbook,
                                                                  const std::vector<std::string>& in_use) const;
+
+    // Menus and toolbars. A parent is a command bar or a popup; captions are compared without "&" and case.
+    [[nodiscard]] automation::ObjectRef worksheet_menu_bar() const;
+    // The toolbar of a name, made (not visible yet) when there is none; and whether there was one to take away.
+    [[nodiscard]] automation::ObjectRef toolbar(std::string_view name) const;
+    bool remove_toolbar(std::string_view name) const;
+    // A popup runs its macro when it opens.
+    [[nodiscard]] automation::ObjectRef add_popup(const automation::ObjectRef& parent, std::string_view caption,
+                                                  std::string_view on_action = {}, std::string_view tag = {},
+                                                  bool begin_group = false,
+                                                  std::optional<std::int32_t> before = {}) const;
+    automation::ObjectRef add_button(const automation::ObjectRef& parent, const ButtonDesign& design) const;
+    // Deletes what stands on a bar or a popup, Excel's own left alone, or the controls of a caption; how many went.
+    std::int32_t clear_controls(const automation::ObjectRef& parent) const;
+    std::int32_t remove_controls(const automation::ObjectRef& parent, std::string_view caption) const;
+    // Nothing when there is none.
+    [[nodiscard]] automation::ObjectRef find_control(const automation::ObjectRef& parent,
+                                                     std::string_view caption) const;
+    [[nodiscard]] automation::ObjectRef find_control_by_tag(std::string_view tag) const;
+    // The parameter of the control whose macro runs; empty when none does.
+    [[nodiscard]] std::string clicked_parameter() const;
+    void set_control_enabled(const automation::ObjectRef& control, bool enabled) const;
+    void set_control_checked(const automation::ObjectRef& button, bool checked) const;
+    void set_control_caption(const automation::ObjectRef& control, std::string_view caption) const;
+    void set_control_tooltip(const automation::ObjectRef& control, std::string_view text) const;
 
     // Shows an array as a table.
     void display_array(const automation::Value& array, std::string_view title) const;

@@ -14,6 +14,7 @@
 #include "host/objects/WindowObject.h"
 #include "host/objects/WindowsObject.h"
 #include "host/objects/WorkbooksObject.h"
+#include "host/objects/bars/CommandBarsObject.h"
 
 namespace kestrune::host {
 namespace {
@@ -59,6 +60,8 @@ Sheet& ApplicationObject::worksheet(std::string_view member) const {
 
 ObjectRef ApplicationObject::workbooks() const { return std::make_shared<WorkbooksObject>(session()); }
 ObjectRef ApplicationObject::windows() const { return std::make_shared<WindowsObject>(session(), nullptr); }
+
+ObjectRef ApplicationObject::command_bars() const { return std::make_shared<CommandBarsObject>(session()); }
 
 ObjectRef ApplicationObject::active_workbook() const {
     OpenWorkbook* active = session().active();
@@ -215,7 +218,7 @@ const MemberTable& ApplicationObject::members() {
         property<&A::left, &A::set_left>("Left", 35), property<&A::top, &A::set_top>("Top", 36),
         property<&A::width, &A::set_width>("Width", 37), property<&A::height, &A::set_height>("Height", 38),
         read_only<&A::usable_width>("UsableWidth", 39), read_only<&A::usable_height>("UsableHeight", 40),
-        of_many<&A::run>("Run", 41, macro_and_thirty_arguments));
+        of_many<&A::run>("Run", 41, macro_and_thirty_arguments), read_only<&A::command_bars>("CommandBars", 42));
     static constexpr MemberTable table("Application", rows);
     return table;
 }

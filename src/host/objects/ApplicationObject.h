@@ -23,6 +23,7 @@ class ApplicationObject final : public WindowPlaceObject<ApplicationObject>, pub
     [[nodiscard]] std::string version() const { return "16.0"; }
     [[nodiscard]] ObjectRef workbooks() const;
     [[nodiscard]] ObjectRef windows() const;
+    [[nodiscard]] ObjectRef command_bars() const;
     [[nodiscard]] ObjectRef active_workbook() const;
     [[nodiscard]] ObjectRef active_window() const;
     [[nodiscard]] ObjectRef active_sheet() const;

@@ -17,6 +17,8 @@
 
 namespace kestrune::host {
 
+struct CommandBars;
+
 // A window's place on the screen, in points from the screen's top-left corner.
 struct Rectangle {
     double left = 0;
@@ -102,6 +104,7 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     automation::Arguments raise(std::string_view event, automation::Arguments arguments);
 
     Macros macros;
+    std::shared_ptr<CommandBars> command_bars;  // null until somebody asks for them
     WorkbookStore* store = nullptr;  // what Workbooks.Open opens; without one it finds nothing. Outlives the session
 
     WindowPlace window{xlMaximized, {180, 101.25, 1080, 607.5}};
