@@ -11,3 +11,9 @@ target_compile_definitions(fmt::fmt INTERFACE FMT_HEADER_ONLY)
 # Everything is linked in: whoever loads one of our libraries needs nothing else installed.
 add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
 add_link_options(-static -static-libgcc -static-libstdc++)
+
+# Type libraries and version resources. widl reads Wine's interface definitions and OLE's own type library.
+enable_language(RC)
+find_program(KESTRUNE_WIDL ${triplet}-widl REQUIRED)
+find_path(KESTRUNE_IDL_INCLUDES oaidl.idl PATHS /usr/include/wine/wine/windows NO_CMAKE_FIND_ROOT_PATH REQUIRED)
+find_path(KESTRUNE_STDOLE stdole2.tlb PATHS /usr/lib/x86_64-linux-gnu/wine/x86_64-windows NO_CMAKE_FIND_ROOT_PATH REQUIRED)

@@ -1,0 +1,14 @@
+#include "automation/Trace.h"
+#include "brvblib/register_library.h"
+#include "windows/Win32Presenter.h"
+#include "windows/dll/Component.h"
+
+namespace kestrune::windows {
+
+void wire_component() {
+    static Win32Presenter presenter;
+    static const automation::Trace trace;
+    brvblib::register_library({.trace = trace, .presenter = presenter});
+}
+
+}  // namespace kestrune::windows
