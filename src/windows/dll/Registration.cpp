@@ -14,7 +14,8 @@ namespace {
 // not be taken back exactly.
 
 constexpr REGSAM other_width = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
-constexpr const wchar_t* width = sizeof(void*) == 8 ? L"win64" : L"win32";
+constexpr const wchar_t* width_name = sizeof(void*) == 8 ? L"win64" : L"win32";
+constexpr const wchar_t* other_width_name = sizeof(void*) == 8 ? L"win32" : L"win64";
 // OLE Automation's own marshaller, for interfaces that are dispinterfaces.
 constexpr const wchar_t* dispatch_marshaller = L"{00020420-0000-0000-C000-000000000046}";
 
@@ -60,8 +61,8 @@ std::vector<Entry> entries() {
     const std::wstring library = library_key(facts) + L'\\' + version;
     all.push_back({library, L"", facts.title});
     all.push_back({library + L"\\FLAGS", L"", L"0"});
-    all.push_back({library + L"\\HELPDIR", L"", path.substr(0, path.find_last_of(L'\\'))});
-    all.push_back({library + L"\\0\\" + width, L"", path});
+    all.push_back({library + L"\\HELPDIR", L"", module_folder()});
+    all.push_back({library + L"\\0\\" + width_name, L"", path});
     for (const auto& [name, interface_id] : facts.interfaces) {
         const std::wstring key = interface_key(interface_id);
         all.push_back({key, L"", name});
@@ -112,10 +113,11 @@ bool is_there(HKEY classes, const std::wstring& path, REGSAM view = 0) {
 bool is_empty(HKEY classes, const std::wstring& path) {
     const Key key(classes, path, KEY_READ);
     DWORD keys = 0;
+    DWORD values = 0;
     return key.get() &&
-           RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, nullptr, nullptr, nullptr,
+           RegQueryInfoKeyW(key.get(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
                             nullptr, nullptr) == ERROR_SUCCESS &&
-           keys == 0;
+           keys == 0 && values == 0;
 }
 
 // The text of a key's default value; empty when there is none.
@@ -154,8 +156,8 @@ void remove_class(Removal& removal, HKEY classes, const CreatableClass& c) {
 void remove_library(Removal& removal, HKEY classes, const LibraryFacts& facts) {
     const std::wstring library = library_key(facts);
     const std::wstring version = library + L'\\' + version_of(facts);
-    removal.remove(version + L"\\0\\" + width);
-    if (is_there(classes, version + L"\\0") && !is_empty(classes, version + L"\\0")) return;
+    removal.remove(version + L"\\0\\" + width_name);
+    if (is_there(classes, version + L"\\0\\" + other_width_name)) return;
     removal.remove(version);
     if (is_empty(classes, library)) removal.remove(library);
 }
@@ -166,6 +168,10 @@ HRESULT remove_all(HKEY classes) {
     for (const CreatableClass& c : facts.classes) remove_class(removal, classes, c);
     for (const auto& [name, interface_id] : facts.interfaces) removal.remove(interface_key(interface_id));
     remove_library(removal, classes, facts);
+    // A person's hive may have had none of these before.
+    for (const auto* folder : {L"CLSID", L"Interface", L"TypeLib"}) {
+        if (is_empty(classes, folder)) removal.remove(folder);
+    }
     return removal.result();
 }
 

@@ -82,6 +82,11 @@ std::wstring module_path() {
     return path;
 }
 
+std::wstring module_folder() {
+    const std::wstring path = module_path();
+    return path.substr(0, path.find_last_of(L'\\'));
+}
+
 const LibraryFacts& library_facts() { return library().facts; }
 
 ComPtr<ITypeInfo> embedded_type_info(std::string_view class_name) {

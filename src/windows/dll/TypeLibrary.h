@@ -26,8 +26,9 @@ struct LibraryFacts {
     std::vector<std::pair<std::wstring, IID>> interfaces;
 };
 
-// The full path of this DLL.
+// The full path of this DLL, and the folder in which it lies, without a separator at the end.
 std::wstring module_path();
+std::wstring module_folder();
 
 // From the type library that is embedded in this DLL, which is read once. Fail with AutomationError when it cannot be.
 const LibraryFacts& library_facts();
