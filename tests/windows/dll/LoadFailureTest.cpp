@@ -17,14 +17,15 @@ struct Start {
     bool has_commands = false;
 };
 
-// Loads the add-in as the companion workbook does, with whatever of the libraries is registered.
-Start start_add_in() {
+// Loads the add-in as the companion workbook does, with whatever of the libraries is registered. A box's picture is
+// left beside the DLLs.
+Start start_add_in(const char* picture) {
     CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
     Start start;
     {
         const Dll dll(dll_path("KestruneXL"));
         const Registered registered(dll);
-        BoxWatcher watcher(dll_path("load-failure").replace_extension(".bmp"));
+        BoxWatcher watcher(dll_path(picture).replace_extension(".bmp"));
         const auto entry = create_com_object("KestruneXL.iPublic");
         automation::call(*entry, "NewPublic", {nullptr, nullptr});
         start.has_commands = automation::to_object(automation::call(*entry, "NewGlobal")) != nullptr;
@@ -45,14 +46,14 @@ void expect_load_failure(const Start& start, const char* text) {
 }
 
 TEST(LoadFailure, OfTheGeneralLibraryIsTheOneMessage) {
-    expect_load_failure(start_add_in(),
+    expect_load_failure(start_add_in("no-BRVBLib"),
                         "Unable to load the Brannoch VB Library from Kestrune.  Please contact technical support.");
 }
 
 TEST(LoadFailure, OfTheSpreadsheetLibraryIsTheOneMessage) {
     const Dll general(dll_path("BRVBLib"));
     const Registered registered(general);
-    expect_load_failure(start_add_in(),
+    expect_load_failure(start_add_in("no-BRXLLib"),
                         "Unable to load the BR Excel Library from Kestrune.  Please contact technical support.");
 }
 
@@ -61,7 +62,7 @@ TEST(LoadFailure, DoesNotHappenWhenBothLibrariesAreThere) {
     const Dll spreadsheet(dll_path("BRXLLib"));
     const Registered first(general);
     const Registered second(spreadsheet);
-    EXPECT_EQ(start_add_in().boxes.size(), 0U);
+    EXPECT_EQ(start_add_in("complete").boxes.size(), 0U);
 }
 
 }  // namespace
