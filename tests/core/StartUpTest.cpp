@@ -30,6 +30,18 @@ TEST_F(StartUpTest, GivesCommandObjectsThatShareOneState) {
     EXPECT_THAT(skipped, IsEmpty());
 }
 
+TEST_F(StartUpTest, OpensEachEntryObjectForItself) {
+    start();
+    const ObjectRef second = create_public();
+    EXPECT_EQ(to_object(call(*second, "NewGlobal")), nullptr) << "another one was opened";
+    EXPECT_EQ(to_object(call(*second, "NewPublic", {application, add_in_workbook})), second);
+    const ObjectRef other = to_object(call(*second, "NewGlobal"));
+    ASSERT_TRUE(other);
+    EXPECT_EQ(call(*other, "RunMacro", {"87"}), Value(true));
+    EXPECT_TRUE(run("87"));
+    EXPECT_EQ(application->window->zoom, 110) << "they share one state";
+}
+
 TEST_F(StartUpTest, StartsOnce) {
     watch("BRVBLib");
     start();
