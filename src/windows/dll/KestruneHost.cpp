@@ -1,3 +1,5 @@
+#include <memory>
+
 #include "automation/CreateObject.h"
 #include "host/objects/ApplicationObject.h"
 #include "host/objects/HostSession.h"
@@ -5,11 +7,11 @@
 
 namespace kestrune::windows {
 
-// The embedded Excel as a COM server, for tests. It is one Application a process, as Excel is, and lives as long as the
-// DLL is loaded: clients may let go of its objects in any order.
+// The embedded Excel as a COM server, for tests. Each Application is an Excel of its own, as CreateObject starts a
+// process of its own for each with Excel; its session lives as long as one of its objects is held.
 void wire_component() {
-    static host::HostSession session;
-    automation::register_class("KestruneHost.Application", [] { return host::make_application(session); });
+    automation::register_class("KestruneHost.Application",
+                               [] { return host::make_application(*std::make_shared<host::HostSession>()); });
 }
 
 }  // namespace kestrune::windows
