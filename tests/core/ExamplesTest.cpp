@@ -1,4 +1,5 @@
 #include "core/AddInTest.h"
+#include "core/CommandTable.h"
 #include "excel/Application.h"
 #include "host/objects/HostSession.h"
 #include "host_objects/FakeStore.h"
@@ -6,6 +7,7 @@
 namespace kestrune::core {
 namespace {
 
+using automation::call;
 using automation::Value;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -31,8 +33,8 @@ struct ExamplesTest : AddInTest {
     void start_in_host() {
         watch("BRVBLib");
         entry = create_public();
-        automation::call(*entry, "NewPublic", {excel.object(), add_in_workbook});
-        global = automation::to_object(automation::call(*entry, "NewGlobal"));
+        call(*entry, "NewPublic", {excel.object(), add_in_workbook});
+        global = automation::to_object(call(*entry, "NewGlobal"));
     }
     void install_examples() { store.saves[installed_in + "/Files/Kestrune Examples.xls"] = 0; }
     // Says in the registry of product values whether this start shows the examples.
@@ -63,7 +65,7 @@ TEST_F(ExamplesTest, OpenAtTheStartThatAsksForThem) {
     start_in_host();
     EXPECT_EQ(excel.ActiveWorkbook().Name(), file_name);
     EXPECT_THAT(ran, ElementsAre("Init"));
-    automation::call(*global, "ShowExamplesWorkbook");
+    call(*global, "ShowExamplesWorkbook");
     EXPECT_THAT(ran, ElementsAre("Init", "UpdateWorkbook")) << "it was open already";
     EXPECT_EQ(session.workbooks().size(), 2U);
     EXPECT_THAT(presenter.messages(), IsEmpty());
@@ -79,13 +81,13 @@ TEST_F(ExamplesTest, TellWhenTheyAreNotThere) {
     EXPECT_EQ(message.caption, "Brannoch Kestrune");
     EXPECT_EQ(message.buttons, 0);
     EXPECT_THAT(ran, IsEmpty()) << "no macro ran";
-    EXPECT_EQ(automation::call(*global, "RunMacro", {"98"}), Value(true)) << "the add-in is loaded all the same";
+    EXPECT_EQ(call(*global, "RunMacro", {"98"}), Value(true)) << "the add-in is loaded all the same";
 }
 
 TEST_F(ExamplesTest, GoToTheStartOfATopic) {
     install_examples();
     start_in_host();
-    const auto show = [&](const char* topic) { automation::call(*hot_keys(), "ShowSample", {topic}); };
+    const auto show = [&](const char* topic) { call(*hot_keys(), "ShowSample", {topic}); };
     show("");
     const excel::Workbook examples = excel.ActiveWorkbook();
     ASSERT_EQ(examples.Name(), file_name);
@@ -99,6 +101,23 @@ TEST_F(ExamplesTest, GoToTheStartOfATopic) {
     show("Nothing of the kind");
     EXPECT_EQ(selection(), "First!$A$1") << "an unknown topic leads nowhere";
     EXPECT_THAT(presenter.messages(), IsEmpty());
+}
+
+TEST_F(ExamplesTest, HaveAStartForEveryTopicOfACommand) {
+    install_examples();
+    start_in_host();
+    const auto strings =
+        automation::to_object(automation::get(*automation::CreateObject("BRVBLib.iPublic"), "iString"));
+    call(*hot_keys(), "ShowSample", {""});
+    const excel::Workbook examples = excel.ActiveWorkbook();
+    for (const Command& command : commands()) {
+        const std::string topic = automation::to_text(call(*strings, "Text", {42000 + command.number}));
+        const std::string cell = "$B$" + std::to_string(command.number + 2);
+        // The topic must make a name that Excel takes.
+        examples.Names().Add("bbr.kestrune." + topic + ".start.ebr", "=Second!" + cell);
+        call(*hot_keys(), "ShowSample", {topic});
+        EXPECT_EQ(selection(), "Second!" + cell) << topic;
+    }
 }
 
 TEST_F(ExamplesTest, AreNamedInFull) {
