@@ -31,6 +31,12 @@ void add_tree(HKEY parent, const std::wstring& name, const std::wstring& path, R
 }  // namespace
 
 RegistryPicture classes_of(HKEY hive) {
+    // A person who has logged on to Windows has this key; the user of a fresh Wine prefix has none.
+    HKEY classes = nullptr;
+    if (RegCreateKeyExW(hive, path_of({}).c_str(), 0, nullptr, 0, KEY_READ, nullptr, &classes, nullptr) ==
+        ERROR_SUCCESS) {
+        RegCloseKey(classes);
+    }
     RegistryPicture picture;
     add_tree(hive, path_of({}), {}, picture);
     return picture;
