@@ -15,6 +15,8 @@ class Files {
     [[nodiscard]] virtual std::string read(const std::string& path, std::size_t limit) const = 0;
     // Puts a file under its name whole or not at all: it is written beside, flushed to the disk and renamed.
     virtual void write(const std::string& path, const std::string& bytes) const = 0;
+    // Whether this user may change a file that is there.
+    [[nodiscard]] virtual bool may_write(const std::string& path) const = 0;
 };
 
 }  // namespace kestrune::brvblib

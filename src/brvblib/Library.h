@@ -17,6 +17,11 @@ struct Client {
 
 // What the library's objects share.
 struct Library {
+    // The services that the operation which asks cannot do without: object-required when the program gave none.
+    [[nodiscard]] const Files& files() const;
+    [[nodiscard]] const XmlParser& xml() const;
+    [[nodiscard]] const Desktop& desktop() const;
+
     Services services;
     automation::ObjectRef application{};  // Excel's Application; Nothing until a client hands it over
     std::map<std::string, Client, automation::TextLess> clients{};

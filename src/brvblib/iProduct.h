@@ -28,6 +28,12 @@ class iProduct : public automation::Served<iProduct> {
     // A user message by its number and language; bad index where there is none. The language is 1033, English.
     [[nodiscard]] std::string_view message(std::int32_t number, std::int32_t language) const;
 
+    // The user's own folder for the product's files, ending in a separator. It is made when it is not there; where that
+    // fails, the trace is told and reading or writing in it will say why. Fails when the system has no such place.
+    [[nodiscard]] std::string data_folder() const;
+    // Opens the product's help. When it is missing or cannot be opened, one message says so.
+    void show_help() const;
+
     std::shared_ptr<Library> library_;
     CommandBracket bracket_;
 };

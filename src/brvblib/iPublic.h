@@ -2,9 +2,23 @@
 
 #include <memory>
 #include <string>
+#include <tuple>
 
 #include "automation/MemberTable.h"
 #include "brvblib/Library.h"
+#include "brvblib/iConst.h"
+#include "brvblib/iDate.h"
+#include "brvblib/iDocProp.h"
+#include "brvblib/iFile.h"
+#include "brvblib/iGUID.h"
+#include "brvblib/iHTTP.h"
+#include "brvblib/iHotKeys.h"
+#include "brvblib/iProduct.h"
+#include "brvblib/iScreen.h"
+#include "brvblib/iSort.h"
+#include "brvblib/iString.h"
+#include "brvblib/iWinAPI.h"
+#include "brvblib/iXML.h"
 
 namespace kestrune::brvblib {
 
@@ -20,20 +34,17 @@ class iPublic : public automation::Served<iPublic> {
     // Whether the client was registered. With its last client the library lets go of the application.
     bool unregister_client(const std::string& client_name);
 
-    [[nodiscard]] automation::ObjectRef constants() const { return const_; }
-    [[nodiscard]] automation::ObjectRef hot_keys() const { return hot_keys_; }
-    [[nodiscard]] automation::ObjectRef product() const { return product_; }
-    [[nodiscard]] automation::ObjectRef screen() const { return screen_; }
-    [[nodiscard]] automation::ObjectRef strings() const { return string_; }
-    [[nodiscard]] automation::ObjectRef xml() const { return xml_; }
+    template <class Part>
+    [[nodiscard]] std::shared_ptr<Part> part() const {
+        return std::get<std::shared_ptr<Part>>(parts_);
+    }
 
     std::shared_ptr<Library> library_;
-    automation::ObjectRef const_;
-    automation::ObjectRef hot_keys_;
-    automation::ObjectRef product_;
-    automation::ObjectRef screen_;
-    automation::ObjectRef string_;
-    automation::ObjectRef xml_;
+    std::tuple<std::shared_ptr<iConst>, std::shared_ptr<iDate>, std::shared_ptr<iDocProp>, std::shared_ptr<iFile>,
+               std::shared_ptr<iGUID>, std::shared_ptr<iHotKeys>, std::shared_ptr<iHTTP>, std::shared_ptr<iProduct>,
+               std::shared_ptr<iScreen>, std::shared_ptr<iSort>, std::shared_ptr<iString>, std::shared_ptr<iWinAPI>,
+               std::shared_ptr<iXML>>
+        parts_;
 };
 
 }  // namespace kestrune::brvblib

@@ -14,19 +14,11 @@ using automation::Object;
 constexpr std::int32_t xlMaximized = -4137;
 constexpr std::int32_t xlNormal = -4143;
 
-// A rectangle on the screen, points, or shares of one.
-struct Box {
-    double left = 0;
-    double top = 0;
-    double width = 1;
-    double height = 1;
-};
-
 constexpr std::int32_t maximise = 1;
 constexpr std::int32_t first_share = 2;
 
 // Shares of the screen by placement, from 2 on.
-constexpr std::array<Box, 5> shares{{
+constexpr std::array<Share, 5> shares{{
     {0, 0, 1, 0.5},             // top half
     {0, 0.5, 1, 0.5},           // bottom half
     {0, 0, 0.5, 1},             // left half
@@ -39,13 +31,13 @@ constexpr std::array<Box, 5> shares{{
                                       fmt::format("there is no {} {}", what, index));
 }
 
-// The part of the screen that a window may use, learnt from the maximised window: Excel answers its place in points
-// of the screen it stands on, task bars taken off, where the screen's own size would be in pixels of any screen.
-Box usable_area(Object& application) {
+// The part of the screen that a window may use, in points, learnt from the maximised window: Excel answers its place in
+// points of the screen it stands on, task bars taken off, where the screen's own size would be in pixels of any screen.
+Share usable_area(Object& application) {
     const auto points = [&](std::string_view member) {
         return automation::to_double(automation::get(application, member));
     };
-    Box area{points("Left"), points("Top"), points("Width"), points("Height")};
+    Share area{points("Left"), points("Top"), points("Width"), points("Height")};
     // Windows lets a maximised window's frame hang over the screen's edges by a few points, the same at each.
     constexpr double widest_frame = 12;
     if (area.left < 0 && area.left >= -widest_frame) {
@@ -63,11 +55,16 @@ void iScreen::place(std::int32_t window, std::int32_t placement) const {
         bad_index("placement", placement);
     }
     Object& application = automation::to_required_object(library_->application);
+    if (const auto& screen = library_->services.screen) {
+        std::optional<Share> wanted;
+        if (placement != maximise) wanted = shares[static_cast<std::size_t>(placement - first_share)];
+        if (screen->place(application, wanted)) return;
+    }
     automation::put(application, "WindowState", xlMaximized);
     if (placement == maximise) return;
 
-    const Box area = usable_area(application);
-    const Box& share = shares[static_cast<std::size_t>(placement - first_share)];
+    const Share area = usable_area(application);
+    const Share& share = shares[static_cast<std::size_t>(placement - first_share)];
     // Excel refuses a place and a size to a maximised window.
     automation::put(application, "WindowState", xlNormal);
     const automation::ResumeNext attempt(library_->services.trace);

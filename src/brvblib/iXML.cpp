@@ -69,16 +69,6 @@ void iXML::clear() {
     last_error_.clear();
 }
 
-const XmlParser& iXML::parser() const {
-    if (!library_->services.xml) refuse("iXML", "there is no XML parser on this system");
-    return *library_->services.xml;
-}
-
-const Files& iXML::files() const {
-    if (!library_->services.files) refuse("iXML", "files cannot be reached on this system");
-    return *library_->services.files;
-}
-
 ObjectRef iXML::load(const std::string& path, const std::string& identifier, const std::string& name,
                      const std::optional<std::string>& version) {
     clear();
@@ -95,8 +85,8 @@ ObjectRef iXML::load(const std::string& path, const std::string& identifier, con
 
 XmlElementRef iXML::read(const std::string& path, const std::string& identifier, const std::string& name,
                          const std::optional<std::string>& version) {
-    loaded_ = xml_text(files().read(path, longest_file));
-    XmlElementRef root = parser().parse(loaded_);
+    loaded_ = xml_text(library_->files().read(path, longest_file));
+    XmlElementRef root = library_->xml().parse(loaded_);
     const auto found = root->attribute(identifier_attribute);
     if (!found || !automation::same_text(bare(*found), bare(identifier))) {
         refuse("iXML.Load", fmt::format("is no {} document: its identifier is {}", name,
@@ -138,7 +128,7 @@ std::string iXML::text() const {
 }
 
 XmlElementRef iXML::root() {
-    if (!root_) root_ = parser().parse(text());
+    if (!root_) root_ = library_->xml().parse(text());
     return root_;
 }
 
@@ -160,7 +150,7 @@ bool iXML::save(const std::string& path) {
     try {
         // Nothing leaves that could not be loaded again.
         static_cast<void>(root());
-        files().write(path, xml_file(text()));
+        library_->files().write(path, xml_file(text()));
         return true;
     } catch (const AutomationError& error) {
         const std::string& what = error.description();

@@ -48,8 +48,6 @@ class iXML : public automation::Served<iXML> {
     // Whether the document was saved; LastError says why not. A file that stands there is replaced whole or not at all.
     [[nodiscard]] bool save(const std::string& path);
 
-    [[nodiscard]] const XmlParser& parser() const;
-    [[nodiscard]] const Files& files() const;
     XmlWriter& writer(std::string_view operation);
     XmlElementRef read(const std::string& path, const std::string& identifier, const std::string& name,
                        const std::optional<std::string>& version);

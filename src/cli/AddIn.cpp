@@ -5,17 +5,16 @@
 #include "brxllib/register_library.h"
 #include "cli/Failure.h"
 #include "cli/InstallationFolder.h"
+#include "cli/PrintingDesktop.h"
 #include "core/register_add_in.h"
-#include "native/PosixFiles.h"
-#include "native/PugiXmlParser.h"
+#include "native/services.h"
 
 namespace kestrune::cli {
 
 AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace) {
-    brvblib::register_library({.trace = trace,
-                               .presenter = presenter,
-                               .files = std::make_shared<native::PosixFiles>(),
-                               .xml = std::make_shared<native::PugiXmlParser>()});
+    brvblib::Services services = native::services(trace, presenter, installation_folder());
+    services.desktop = std::make_shared<PrintingDesktop>();
+    brvblib::register_library(std::move(services));
     brxllib::register_library(trace, {.presenter = &presenter});
     core::register_add_in(presenter, trace, installation_folder());
     public_ = automation::CreateObject("KestruneXL.iPublic");

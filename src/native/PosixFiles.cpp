@@ -112,4 +112,6 @@ void PosixFiles::write(const std::string& path, const std::string& bytes) const 
     if (holder.get() >= 0) static_cast<void>(::fsync(holder.get()));
 }
 
+bool PosixFiles::may_write(const std::string& path) const { return ::access(path.c_str(), W_OK) == 0; }
+
 }  // namespace kestrune::native

@@ -10,6 +10,7 @@ class PosixFiles : public brvblib::Files {
     [[nodiscard]] std::string read(const std::string& path, std::size_t limit) const override;
     // Keeps the permissions of the file that is replaced. A symbolic link stays one: what it leads to is replaced.
     void write(const std::string& path, const std::string& bytes) const override;
+    [[nodiscard]] bool may_write(const std::string& path) const override;
 };
 
 }  // namespace kestrune::native

@@ -11,6 +11,7 @@
 
 #include "automation/AutomationError.h"
 #include "automation/Text.h"
+#include "brvblib/Calendar.h"
 
 namespace kestrune::brvblib {
 namespace {
@@ -18,12 +19,8 @@ namespace {
 using automation::Date;
 using automation::trimmed;
 using automation::Value;
-using std::chrono::days;
 using std::chrono::sys_days;
 using std::chrono::year;
-
-constexpr sys_days day_zero = year{1899} / 12 / 30;
-constexpr double milliseconds_a_day = 86'400'000;
 
 // What a type's texts become.
 enum class Reading { Boolean, Integer, Double, Date };
@@ -74,12 +71,6 @@ std::optional<bool> truth(std::string_view text) {
     return std::nullopt;
 }
 
-// Days and the time of day; before day zero OLE counts days backwards and the time forwards all the same.
-double serial(sys_days day, double day_share) {
-    const double count = static_cast<double>((day - day_zero).count());
-    return count < 0 ? count - day_share : count + day_share;
-}
-
 // The digits at a place of a text as a number; nothing when one is no digit.
 std::optional<unsigned> digits(std::string_view text, std::size_t at, std::size_t count) {
     if (text.size() < at + count) return std::nullopt;
@@ -99,7 +90,7 @@ std::optional<Date> date(std::string_view text) {
     if (!y || !m || !d || text[4] != '-' || text[7] != '-') return std::nullopt;
     const std::chrono::year_month_day day{year(static_cast<int>(*y)), std::chrono::month(*m), std::chrono::day(*d)};
     if (!day.ok()) return std::nullopt;
-    double share = 0;
+    std::int64_t time = 0;
     if (text.size() > 10) {
         const auto hour = digits(text, 11, 2);
         const auto minute = digits(text, 14, 2);
@@ -107,22 +98,16 @@ std::optional<Date> date(std::string_view text) {
         if (text[10] != 'T' || !hour || !minute || !second || *hour > 23 || *minute > 59 || *second > 59) {
             return std::nullopt;
         }
-        const double fraction = text.size() > 20 && text[19] == '.' ? digits(text, 20, 3).value_or(0) : 0;
-        share = ((*hour * 60.0 + *minute) * 60 + *second) * 1000 + fraction;
+        const unsigned fraction = text.size() > 20 && text[19] == '.' ? digits(text, 20, 3).value_or(0) : 0;
+        time = ((*hour * 60LL + *minute) * 60 + *second) * 1000 + fraction;
     }
-    return Date{serial(sys_days(day), share / milliseconds_a_day)};
+    return date_of({sys_days(day), time});
 }
 
-std::string date_text(double serial) {
-    // From year 100 to year 9999, as OLE has dates.
-    if (!(serial >= -657434.0 && serial < 2958466.0)) mismatch("date", fmt::format("{}", serial));
-    double whole = std::trunc(serial);
-    auto time = static_cast<std::int64_t>(std::llround(std::abs(serial - whole) * milliseconds_a_day));
-    if (time == static_cast<std::int64_t>(milliseconds_a_day)) {
-        time = 0;
-        whole += 1;
-    }
-    const std::chrono::year_month_day day(day_zero + days(static_cast<int>(whole)));
+std::string iso_text(Date date) {
+    const Moment moment = moment_of(date);
+    const std::chrono::year_month_day day(moment.day);
+    const std::int64_t time = moment.milliseconds;
     std::string text = fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}", static_cast<int>(day.year()),
                                    static_cast<unsigned>(day.month()), static_cast<unsigned>(day.day()),
                                    time / 3'600'000, time / 60'000 % 60, time / 1000 % 60);
@@ -149,7 +134,7 @@ TypedText typed_text(const Value& value) {
             return {"r8", fmt::format("{}", number)};
         }
         case Value::Kind::Date:
-            return {"dateTime", date_text(value.if_is<Date>()->serial)};
+            return {"dateTime", iso_text(*value.if_is<Date>())};
         default:
             throw automation::AutomationError(automation::hresult::type_mismatch, "iXML.WriteLeaf",
                                               "a leaf holds a text, a number, a Boolean or a date");

@@ -8,6 +8,17 @@ namespace kestrune::core {
 using automation::to_boolean;
 using automation::to_text;
 
+namespace {
+
+std::string dialog_title(std::string_view title) { return std::string(product_title).append(" -- ").append(title); }
+
+std::optional<std::string> chosen(const automation::Value& path) {
+    if (path.is(automation::Value::Kind::Empty)) return std::nullopt;
+    return to_text(path);
+}
+
+}  // namespace
+
 void diBRVBLib::set_application(const automation::ObjectRef& application) const {
     automation::call(automation::to_required_object(iPublic()), "SetApplication", {application});
 }
@@ -33,6 +44,10 @@ bool diBRVBLib::allows_training() const { return to_boolean(call(Product, "Allow
 automation::Value diBRVBLib::machine_value(std::string_view name) const {
     return call(Product, "MachineValue", {name});
 }
+
+std::string diBRVBLib::data_folder() const { return to_text(call(Product, "DataFolder")); }
+
+void diBRVBLib::show_help() const { call(Product, "ShowHelp"); }
 
 std::string diBRVBLib::message(Text number) const {
     constexpr std::int32_t english = 1033;
@@ -74,6 +89,30 @@ bool diBRVBLib::check_numeric_field(std::string_view text, std::string_view fiel
 }
 
 std::string diBRVBLib::name_text(std::string_view text) const { return to_text(call(String, "NameText", {text})); }
+
+std::string diBRVBLib::present_time_text() const { return to_text(call(Date, "Text")); }
+
+automation::Date diBRVBLib::date_add(std::string_view interval, double number, automation::Date date) const {
+    return automation::Date{automation::to_double(call(Date, "DateAdd", {interval, number, date}))};
+}
+
+bool diBRVBLib::file_exists(std::string_view path) const { return to_boolean(call(File, "Exists", {path})); }
+
+std::string diBRVBLib::set_aside(std::string_view path, std::string_view why) const {
+    return to_text(call(File, "SetAside", {path, why}));
+}
+
+std::optional<std::string> diBRVBLib::open_dialog(std::string_view title, std::string_view filter,
+                                                  std::string_view pattern) const {
+    return chosen(call(File, "OpenDialog", {dialog_title(title), filter, pattern}));
+}
+
+std::optional<std::string> diBRVBLib::save_dialog(std::string_view title, std::string_view filter,
+                                                  std::string_view pattern, std::string_view proposed) const {
+    return chosen(call(File, "SaveDialog", {dialog_title(title), filter, pattern, proposed}));
+}
+
+automation::Value diBRVBLib::sorted(const automation::Value& array) const { return call(Sort, "Sorted", {array}); }
 
 void diBRVBLib::xml_clear() const { call(XML, "Clear"); }
 

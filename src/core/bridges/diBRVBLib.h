@@ -48,6 +48,10 @@ class diBRVBLib : public LibraryBridge {
     [[nodiscard]] automation::Value machine_value(std::string_view name) const;
     // Before a command (false) and after it (true).
     void command_bracket(bool ended) const;
+    // The user's folder for the product's files, ending in a separator; it is made when it is not there.
+    [[nodiscard]] std::string data_folder() const;
+    // Opens the product's help; when that cannot be, one message says so.
+    void show_help() const;
     // A user message in English.
     [[nodiscard]] std::string message(Text number) const;
 
@@ -69,6 +73,24 @@ class diBRVBLib : public LibraryBridge {
     [[nodiscard]] bool check_numeric_field(std::string_view text, std::string_view field_name) const;
     // A text made fit to be part of a defined name.
     [[nodiscard]] std::string name_text(std::string_view text) const;
+
+    // The present date and time as en-US shows them, "11/22/2026 9:05:00 PM"; and a date some intervals later, as
+    // Visual Basic's DateAdd has it.
+    [[nodiscard]] std::string present_time_text() const;
+    [[nodiscard]] automation::Date date_add(std::string_view interval, double number, automation::Date date) const;
+
+    [[nodiscard]] bool file_exists(std::string_view path) const;
+    // Renames a file that makes room, so that it stays beside what replaces it: "Name (why).xml". The new path.
+    [[nodiscard]] std::string set_aside(std::string_view path, std::string_view why) const;
+    // Asks for a file to open, or under which to save: its path, or nothing when the person cancels. The title follows
+    // the product's; filter is what the files are called, pattern which are offered ("*.xml").
+    [[nodiscard]] std::optional<std::string> open_dialog(std::string_view title, std::string_view filter,
+                                                         std::string_view pattern) const;
+    [[nodiscard]] std::optional<std::string> save_dialog(std::string_view title, std::string_view filter,
+                                                         std::string_view pattern, std::string_view proposed) const;
+
+    // An array of one dimension in Excel's order.
+    [[nodiscard]] automation::Value sorted(const automation::Value& array) const;
 
     // The XML document: see the library's iXML. Nodes are objects with MSXML's nodeName, text and nodeTypedValue, lists
     // of them have Length and Item from 0 on; a node or document that is not there is null. When loading or saving

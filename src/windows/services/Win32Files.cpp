@@ -8,23 +8,13 @@
 
 #include "automation/AutomationError.h"
 #include "windows/com/Unicode.h"
+#include "windows/services/LastFailure.h"
 
 namespace kestrune::windows {
 namespace {
 
 [[noreturn]] void fail(const std::string& path, std::string_view what) {
     throw automation::AutomationError(automation::hresult::exception, "iFile", fmt::format("{}: {}", path, what));
-}
-
-// The last failure in Windows' words, without its line break.
-std::string last_failure() {
-    const DWORD code = ::GetLastError();
-    wchar_t text[512];
-    DWORD length = ::FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0, text,
-                                    static_cast<DWORD>(std::size(text)), nullptr);
-    while (length > 0 && (text[length - 1] == L'\n' || text[length - 1] == L'\r')) --length;
-    if (length == 0) return fmt::format("Windows error {}", code);
-    return to_utf8({text, length});
 }
 
 class Handle {
@@ -107,6 +97,13 @@ void Win32Files::write(const std::string& path, const std::string& bytes) const 
         return;
     }
     if (!::MoveFileExW(beside.c_str(), name.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) give_up();
+}
+
+bool Win32Files::may_write(const std::string& path) const {
+    // Opening asks what attributes do not tell: permissions, and other programs that hold the file.
+    const Handle file(::CreateFileW(to_utf16(path).c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return file.good();
 }
 
 }  // namespace kestrune::windows
