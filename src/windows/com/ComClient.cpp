@@ -111,9 +111,17 @@ Value ComClient::invoke(std::string_view member, Call kind, Arguments& arguments
         CallFrame frame(kind, arguments, named_ids.data() + (named_ids.empty() ? 0 : 1));
         Variant answer;
         EXCEPINFO info{};
-        UINT wrong = 0;
-        const HRESULT result = object_->Invoke(id, IID_NULL, lcid, static_cast<WORD>(kind), frame.parameters(),
-                                               is_put(kind) ? nullptr : &answer.raw(), &info, &wrong);
+        const auto ask = [&](Call as) {
+            UINT wrong = 0;
+            return object_->Invoke(id, IID_NULL, lcid, static_cast<WORD>(as), frame.parameters(),
+                                   is_put(as) ? nullptr : &answer.raw(), &info, &wrong);
+        };
+        HRESULT result = ask(kind);
+        // Excel's type library has some members as methods that its reference calls properties, and the reverse. Visual
+        // Basic asks for either at once; what is refused as the one has not run and is asked for as either, too.
+        if (result == DISP_E_MEMBERNOTFOUND && (kind == Call::Get || kind == Call::Method)) {
+            result = ask(Call::MethodOrGet);
+        }
         if (FAILED(result)) fail(result, info, member);
         frame.read_back(arguments);
         return to_value(answer.raw());

@@ -20,7 +20,8 @@ class ComClient final : public automation::Object, public automation::EventSourc
   public:
     explicit ComClient(IDispatch* object) : object_(object) {}
 
-    // Positional arguments of methods and readings go by reference, those of writings by value.
+    // Positional arguments of methods and readings go by reference, those of writings by value. A method that is a
+    // property to the other program, and a property that is a method, are called all the same.
     automation::Value invoke(std::string_view member, automation::Call kind, automation::Arguments& arguments) override;
 
     // By the object's own type information, as TypeName has it; "Object" when it gives none.

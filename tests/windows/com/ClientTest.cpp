@@ -72,6 +72,22 @@ TEST_F(Client, AsksInOlesOrder) {
     }
 }
 
+TEST_F(Client, AsksForEitherWhatIsRefusedAsOneKind) {
+    for (const Call kind : {Call::Get, Call::Method, Call::MethodOrGet, Call::Put}) {
+        fake.answer = [&](DISPPARAMS&, VARIANT*, EXCEPINFO*) {
+            const bool either = fake.asked.back().flags == (DISPATCH_METHOD | DISPATCH_PROPERTYGET);
+            return either && kind != Call::MethodOrGet ? S_OK : DISP_E_MEMBERNOTFOUND;
+        };
+        if (kind == Call::Get || kind == Call::Method) {
+            ask("Do", kind, {1});
+            EXPECT_EQ(fake.asked.size(), 2U);
+        } else {
+            EXPECT_THROW(ask("Do", kind, {1}), AutomationError);
+            EXPECT_EQ(fake.asked.size(), 1U);
+        }
+    }
+}
+
 TEST_F(Client, LooksANameUpOnce) {
     for (int i = 0; i < 3; ++i) ask("Do", Call::Get, {});
     EXPECT_EQ(fake.look_ups, 1);
