@@ -1,5 +1,6 @@
 #include "core/iGlobal.h"
 
+#include "automation/ResumeNext.h"
 #include "core/Dispatcher.h"
 #include "core/ExamplesWorkbook.h"
 #include "core/Folders.h"
@@ -47,6 +48,12 @@ void iGlobal::show_examples_workbook() const {
     core::show_examples_workbook(*shared);
 }
 
+void iGlobal::show_help() const {
+    const auto shared = shared_;
+    const automation::ResumeNext attempt(shared->trace);
+    attempt([&] { shared->general().show_help(); });
+}
+
 std::string iGlobal::lesson_path() const { return lessons_folder(*shared_); }
 
 const MemberTable& iGlobal::members() {
@@ -54,6 +61,7 @@ const MemberTable& iGlobal::members() {
         automation::method<&iGlobal::toggle_auto_color>("ToggleAutoColor", id("ToggleAutoColor")),
         automation::method<&iGlobal::run_auto_color>("RunAutoColor", id("RunAutoColor")),
         automation::method<&iGlobal::show_examples_workbook>("ShowExamplesWorkbook", id("ShowExamplesWorkbook")),
+        automation::method<&iGlobal::show_help>("ShowHelp", id("ShowHelp")),
         automation::method<&iGlobal::run_macro>("RunMacro", id("RunMacro"), "Request"),
         automation::read_only<&iGlobal::lesson_path>("LessonPath", id("LessonPath")),
         automation::method<&iGlobal::apply_smart_cycle_style>("ApplySmartCycleStyle", id("ApplySmartCycleStyle"),

@@ -95,6 +95,16 @@ TEST_F(StartUpTest, GoesStepByStep) {
     EXPECT_THAT(skipped, IsEmpty());
 }
 
+TEST_F(StartUpTest, TellsWhenTheHelpIsMissing) {
+    start();
+    call(*global, "ShowHelp");
+    ASSERT_EQ(presenter.messages().size(), 1U);
+    EXPECT_EQ(presenter.messages().front().caption, "Brannoch Kestrune");
+    entry = nullptr;
+    call(*global, "ShowHelp");
+    EXPECT_EQ(presenter.messages().size(), 1U) << "without the add-in nothing happens";
+}
+
 TEST_F(StartUpTest, RegistersNobodyWithoutTheGeneralLibrary) {
     automation::unregister_class("BRVBLib.iPublic");
     watch("BRXLLib");
