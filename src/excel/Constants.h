@@ -58,6 +58,10 @@ inline constexpr std::int32_t xlBetween = 1;
 inline constexpr std::int32_t xlGreater = 5;
 inline constexpr std::int32_t xlLess = 6;
 
+// XlCellType
+inline constexpr std::int32_t xlCellTypeConstants = 2;
+inline constexpr std::int32_t xlCellTypeFormulas = -4123;
+
 // XlCalculation
 inline constexpr std::int32_t xlCalculationManual = -4135;
 inline constexpr std::int32_t xlCalculationAutomatic = -4105;

@@ -57,6 +57,7 @@ class Range : public Facade<Range> {
         {"Select", Access::method},
         {"ShrinkToFit", Access::get_put},
         {"SpillParent", Access::get},
+        {"SpecialCells", Access::method, "Type! Value"},
         {"Text", Access::get},
         {"Value", Access::get_put, "RangeValueDataType"},
         {"Value2", Access::get_put},
@@ -133,6 +134,8 @@ class Range : public Facade<Range> {
     void ShrinkToFit(excel::Value value) const { put("ShrinkToFit", std::move(value)); }
     // The cell whose formula spills into this one; Nothing or a failure when none does.
     [[nodiscard]] Range SpillParent() const { return get<Range>("SpillParent"); }
+    // XlCellType; fails when there are none.
+    [[nodiscard]] Range SpecialCells(std::int32_t type) const { return call<Range>("SpecialCells", type); }
     [[nodiscard]] excel::Value Text() const { return get("Text"); }    // as the sheet shows it
     [[nodiscard]] excel::Value Value() const { return get("Value"); }  // a 2-D array for several cells
     void Value(excel::Value value) const { put("Value", std::move(value)); }

@@ -164,6 +164,15 @@ TEST_F(AutoColorTest, UniformCellsCostAHandfulOfCalls) {
     EXPECT_EQ(session.active()->model->sheets()[0]->stored_cells(), 10'000) << "no cell came to be";
 }
 
+TEST_F(AutoColorTest, FarCellsCostNoMoreThanNearOnes) {
+    fill("A1:B3", 1.0);
+    write("XFD1048576", "='Other Sheet'!A1");
+    EXPECT_LE(calls_of([&] { library->auto_color_worksheet(); }), 60);
+    EXPECT_EQ(color("A1:B3"), defaults.InputColor);
+    EXPECT_EQ(color("XFD1048576"), defaults.WksLinkColor);
+    EXPECT_EQ(color("C1"), black);
+}
+
 TEST_F(AutoColorTest, ProtectionKeepsWhatItLocks) {
     host::Sheet& sheet = *session.active()->model->sheets()[0];
     fill("A1:A8", 1.0);

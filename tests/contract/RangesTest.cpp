@@ -106,5 +106,25 @@ TEST_F(Sure, RangesResolveNames) {
     EXPECT_EQ(call_refused(sheet("Sheet1"), "Range", {"Far"}), error_1004) << "it is on another sheet";
 }
 
+TEST_F(Likely, SpecialCellsFindsWhatIsThere) {
+    put(range("A1:A3"), "Value", 1);
+    put(range("B1:B2"), "Value", "text");
+    put(range("C2"), "Formula", "=A1");
+    put(range("D1:D2"), "FormulaArray", "=A1:A2*2");
+    put(font(range("F5")), "Bold", true);
+    const auto found = [&](std::string_view cells, std::int32_t type, Arguments more = {}) {
+        Arguments arguments{type};
+        for (const Value& argument : more.positional) arguments.positional.push_back(argument);
+        return address(automation::to_object(call(range(cells), "SpecialCells", arguments)));
+    };
+    constexpr std::int32_t constants = 2, formulas = -4123, blanks = 4, last = 11;
+    EXPECT_EQ(found("A1:C9", constants), "$A$1:$A$3,$B$1:$B$2");
+    EXPECT_EQ(found("A1", constants, {2}), "$B$1:$B$2") << "texts of the whole sheet, asked of a single cell";
+    EXPECT_EQ(found("A:D", formulas), "$C$2,$D$1:$D$2");
+    EXPECT_EQ(found("B1:C3", blanks), "$C$1,$B$3:$C$3");
+    EXPECT_EQ(found("A2", last), "$F$5");
+    EXPECT_EQ(call_refused(range("E1:E9"), "SpecialCells", {constants}), error_1004);
+}
+
 }  // namespace
 }  // namespace kestrune::contract

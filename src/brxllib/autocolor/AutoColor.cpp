@@ -8,6 +8,7 @@
 #include "brxllib/autocolor/FontPainter.h"
 #include "brxllib/autocolor/Locks.h"
 #include "brxllib/autocolor/Rectangles.h"
+#include "excel/Constants.h"
 #include "formula/A1.h"
 
 namespace kestrune::brxllib {
@@ -18,6 +19,10 @@ using formula::Area;
 
 // Cells that are read at once: enough for calls not to count, few enough for Excel's memory.
 constexpr std::int64_t most_cells_at_once = 200'000;
+
+// From here on it pays to ask Excel where on the sheet there is anything: a used range may be nearly the whole sheet
+// because of one cell far out.
+constexpr std::int64_t cells_read_blindly = 2'000'000;
 
 // From here on redrawing after every write would be seen.
 constexpr std::int64_t cells_redrawn_at_once = 1'000;
@@ -61,6 +66,19 @@ class SheetColoring {
     const Paints& paints_;
     FontPainter painter_;
 };
+
+// The rectangles of a large range that hold anything.
+std::vector<Area> filled_areas(const excel::Range& range, const automation::ResumeNext& attempt) {
+    std::vector<Area> filled;
+    for (const std::int32_t type : {excel::xlCellTypeConstants, excel::xlCellTypeFormulas}) {
+        // A failure means that there are none.
+        attempt([&] {
+            const std::vector<Area> areas = areas_of(range.SpecialCells(type));
+            filled.insert(filled.end(), areas.begin(), areas.end());
+        });
+    }
+    return filled;
+}
 
 }  // namespace
 
@@ -115,7 +133,17 @@ void AutoColor::color_cells(const excel::Worksheet& sheet, const Areas& cells) {
     if (cells.empty()) return;
     if (count_of(cells) > cells_redrawn_at_once) pause_redrawing();
     SheetColoring coloring(library_, sheet, hyperlinks_, paints_, respected_);
+    const automation::Trace nobody;
+    Areas blocks;
     for (const Area& area : cells) {
+        if (area.cells() <= cells_read_blindly) {
+            blocks.push_back(area);
+            continue;
+        }
+        const Areas filled = filled_areas(sheet.Range(formula::area_text(area)), automation::ResumeNext(nobody));
+        blocks.insert(blocks.end(), filled.begin(), filled.end());
+    }
+    for (const Area& area : blocks) {
         const auto rows = static_cast<std::int32_t>(std::max<std::int64_t>(1, most_cells_at_once / area.columns()));
         for (std::int32_t row = area.first_row; row <= area.last_row; row += rows) {
             const Area block{row, area.first_column, std::min(area.last_row, row + rows - 1), area.last_column};

@@ -81,6 +81,15 @@ inline constexpr std::int32_t xlToLeft = -4159;
 inline constexpr std::int32_t xlToRight = -4161;
 inline constexpr std::int32_t xlUp = -4162;
 
+inline constexpr std::int32_t xlCellTypeBlanks = 4;
+inline constexpr std::int32_t xlCellTypeConstants = 2;
+inline constexpr std::int32_t xlCellTypeFormulas = -4123;
+inline constexpr std::int32_t xlCellTypeLastCell = 11;
+inline constexpr std::int32_t xlNumbers = 1;
+inline constexpr std::int32_t xlTextValues = 2;
+inline constexpr std::int32_t xlLogical = 4;
+inline constexpr std::int32_t xlErrors = 16;
+
 inline constexpr std::int32_t xlCellValue = 1;
 inline constexpr std::int32_t xlBetween = 1;
 inline constexpr std::int32_t xlNotBetween = 2;

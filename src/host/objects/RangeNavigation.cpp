@@ -11,6 +11,7 @@
 #include "host/objects/RangeObject.h"
 #include "host/objects/RangeReference.h"
 #include "host/objects/Refusal.h"
+#include "host/objects/SpecialCells.h"
 
 namespace kestrune::host {
 namespace {
@@ -196,6 +197,27 @@ ObjectRef RangeObject::end(std::int32_t direction) const {
 
 ObjectRef RangeObject::current_region() const {
     return make({filled_region(cells_.sheet(), Area::cell(cells_.first().top_left()))});
+}
+
+ObjectRef RangeObject::special_cells(std::int32_t type, const Value& kinds) const {
+    constexpr std::string_view member = "Range.SpecialCells";
+    Sheet& sheet = cells_.sheet();
+    const Area used = sheet.used_area();
+    if (type == xlCellTypeLastCell) return make({Area::cell({used.last_row, used.last_column})});
+    if (type != xlCellTypeConstants && type != xlCellTypeFormulas && type != xlCellTypeBlanks) {
+        refuse(member, "the host finds constants, formulas, blank cells and the last cell only");
+    }
+    const SpecialCells wanted{type, value_or(kinds, xlNumbers | xlTextValues | xlLogical | xlErrors)};
+    const bool whole_sheet = cells_.areas().size() == 1 && cells_.first().single_cell();
+    std::vector<Area> found;
+    for (const Area& area : whole_sheet ? std::vector{used} : cells_.areas()) {
+        const auto inside = area.intersection(used);
+        if (!inside) continue;
+        const std::vector<Area> part = find_special_cells(sheet, *inside, wanted);
+        found.insert(found.end(), part.begin(), part.end());
+    }
+    if (found.empty()) refuse(member, "No cells were found.");
+    return make(std::move(found));
 }
 
 ObjectRef RangeObject::next() const {

@@ -51,6 +51,9 @@ class RangeObject final : public HostObject<RangeObject> {
     [[nodiscard]] ObjectRef resize(const Value& rows, const Value& columns) const;
     [[nodiscard]] ObjectRef end(std::int32_t direction) const;  // where Ctrl and an arrow lead
     [[nodiscard]] ObjectRef current_region() const;             // the block of filled cells around the first one
+    // Constants, formulas, blank cells or the last cell, in the used range; of the whole sheet for a single cell. Error
+    // 1004 when there are none.
+    [[nodiscard]] ObjectRef special_cells(std::int32_t type, const Value& kinds) const;
     [[nodiscard]] ObjectRef next() const;
     [[nodiscard]] ObjectRef previous() const;
 
