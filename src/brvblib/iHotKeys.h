@@ -14,9 +14,9 @@ class iHotKeys : public automation::Served<iHotKeys> {
     static const automation::MemberTable& members();
 
   private:
-    [[nodiscard]] automation::ObjectRef registry() const { return registry_; }
+    [[nodiscard]] std::shared_ptr<HotKeyRegistry> registry() const { return registry_; }
 
-    automation::ObjectRef registry_;
+    std::shared_ptr<HotKeyRegistry> registry_;
 };
 
 }  // namespace kestrune::brvblib

@@ -31,6 +31,7 @@ constexpr auto classes = std::to_array<ClassIdentity>({
     {"BRVBLib", "iString", "0376c500-986c-4d3a-b1c3-67332bae5de4", "d1f50d69-7d74-45d0-862e-823300d8cc3d"},
     {"BRVBLib", "iWinAPI", "4ee77b04-3774-4799-9474-4bcc054b6294", "3590dba4-da5f-4409-8eca-4fff5e806c0c"},
     {"BRVBLib", "iXML", "ca2d5514-c6d1-4b6e-99a2-e01720dde650", "5eb679bf-81c2-4f82-bd38-dfe38da67e53"},
+    {"BRVBLib", "HotKeyRegistry", "6c2348da-0bc9-4125-b34b-c6f81d79daab", "8608a210-63c3-48ba-9f24-4e5122447ad7"},
     {"BRXLLib", "iPublic", "b4e4f905-d966-4d2c-b28f-e40c79c2d934", "16aff0ff-ff89-41f0-81d9-a78df9021d53"},
     {"BRXLLib", "iAutoColor", "2829c108-4216-426c-9dc7-efb32cbaeda1", "f0928238-7ec6-4521-a494-2143f964b06d"},
     {"BRXLLib", "iConst", "f768196a-360f-481f-81e1-db6768ce210c", "8ab62fde-de1c-48ea-b298-a4ebe0bebcdf"},
