@@ -2,6 +2,7 @@
 include(GNUInstallDirs)
 if(TARGET kestrune)
   install(TARGETS kestrune RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+  install(FILES "${PROJECT_BINARY_DIR}/help/Kestrune Help.html" DESTINATION ${CMAKE_INSTALL_DATADIR}/kestrune)
   install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
   install(FILES completions/kestrune.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME kestrune)
   install(FILES completions/_kestrune DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)

@@ -13,7 +13,8 @@ _kestrune() {
         case $command in
             run) COMPREPLY=($(compgen -W "-o --output --in-place --answer --json --trace --help" -- "$word")) ;;
             show) COMPREPLY=($(compgen -W "--html --color --help" -- "$word")) ;;
-            commands | cell | diff) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
+            commands) COMPREPLY=($(compgen -W "--json --html --help" -- "$word")) ;;
+            cell | diff) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
         esac
         return
     fi

@@ -6,7 +6,9 @@
 #include <nlohmann/json.hpp>
 
 #include "brvblib/CommandTexts.h"
+#include "cli/HelpPage.h"
 #include "core/CommandTable.h"
+#include "host/xlsx/package/AtomicFile.h"
 
 namespace kestrune::cli {
 namespace {
@@ -17,8 +19,14 @@ const brvblib::CommandText& text_of(const core::Command& command) {
 
 }  // namespace
 
-void list_commands(bool json) {
-    if (json) {
+void list_commands(const CommandsOptions& options) {
+    if (options.html) {
+        host::AtomicFile file(*options.html);
+        file.write(help_page());
+        file.commit();
+        return;
+    }
+    if (options.json) {
         nlohmann::ordered_json rows = nlohmann::ordered_json::array();
         for (const core::Command& command : core::commands()) {
             const brvblib::CommandText& text = text_of(command);

@@ -65,10 +65,11 @@ void add_cell(CLI::App& app, CellOptions& options) {
     command->callback([&options] { describe_cells(options.workbook, options.references, options.json); });
 }
 
-void add_commands(CLI::App& app, bool& json) {
+void add_commands(CLI::App& app, CommandsOptions& options) {
     CLI::App* command = app.add_subcommand("commands", "List the 103 commands");
-    command->add_flag("--json", json, "As JSON");
-    command->callback([&json] { list_commands(json); });
+    auto* json = command->add_flag("--json", options.json, "As JSON");
+    command->add_option("--html", options.html, "Write them as the product's help page")->excludes(json);
+    command->callback([&options] { list_commands(options); });
 }
 
 void add_show(CLI::App& app, ShowOptions& options) {
@@ -99,9 +100,9 @@ int run_program(int argc, char** argv) {
     CellOptions cell_options;
     ShowOptions show_options;
     DiffOptions diff_options;
-    bool commands_json = false;
+    CommandsOptions commands_options;
     add_run(app, run_options);
-    add_commands(app, commands_json);
+    add_commands(app, commands_options);
     add_cell(app, cell_options);
     add_show(app, show_options);
     add_diff(app, diff_options);

@@ -240,7 +240,16 @@ class Telling(CommandLineTest):
         for command in commands:
             self.assertTrue(command["description"].endswith("."), command)
         self.assertEqual([c["number"] for c in commands if c["parameter"]], [*range(19, 51), 58, 59, 60, 97, 99])
-        self.assertIn("Currency SmartCycle", self.run_ok("commands").stdout)
+        listed = self.run_ok("commands").stdout
+        self.assertRegex(listed, r"\n +20\.n +Currency SmartCycle +Ctrl\+Shift\+4 +Steps ")
+        page = self.folder / "Kestrune Help.html"
+        self.run_ok("commands", "--html", page)
+        html = page.read_text()
+        for command in commands:
+            self.assertIn(f"<td>{command['name']}</td>", html)
+        self.assertIn("<kbd>Ctrl+Shift+4</kbd>", html)
+        self.assertEqual(kestrune("commands", "--html", self.folder / "no" / "page.html").returncode, 1)
+        self.assertEqual(kestrune("commands", "--json", "--html", page).returncode, 2)
 
     def test_describes_cells_in_the_object_models_terms(self):
         out = self.folder / "out.xlsx"
