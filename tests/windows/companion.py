@@ -52,6 +52,11 @@ def main():
     # What a run that was stopped may have left.
     regsvr32("/u")
     regsvr32("/u", "/n", "/i:user")
+    # Wine's cscript registers a type library of its own when a prefix runs it first.
+    with tempfile.TemporaryDirectory() as folder:
+        nothing = Path(folder) / "nothing.vbs"
+        nothing.write_text("")
+        wine("cscript", "/nologo", f"Z:{nothing}")
     before = registry()
     if len(before) < 100:
         sys.exit("the registry cannot be read")
