@@ -128,7 +128,9 @@ std::optional<Use> DependentFormula::find(std::string_view formula, Position at)
     if (!could_mean(formula)) return std::nullopt;
     Lexer lexer(formula);
     // The reference in front of a ":" or a "#", when it is on the cells' sheet.
-    std::optional<Area> last;
+    // Not an optional: GCC 12 takes one in this loop for uninitialised when it optimises.
+    Area last;
+    bool has_last = false;
     std::size_t last_offset = 0;
     bool joins = false;
     for (Token token = lexer.next(); token.kind != TokenKind::end; token = lexer.next()) {
@@ -136,10 +138,10 @@ std::optional<Use> DependentFormula::find(std::string_view formula, Position at)
             case TokenKind::whitespace:
                 continue;
             case TokenKind::range:
-                joins = last.has_value();
+                joins = has_last;
                 continue;
             case TokenKind::postfix:
-                if (last && cells_.spill_anchor && last->single_cell() && last->contains(*cells_.spill_anchor))
+                if (has_last && cells_.spill_anchor && last.single_cell() && last.contains(*cells_.spill_anchor))
                     return Use{last_offset, token.end() - last_offset, {}};
                 continue;
             case TokenKind::reference: {
@@ -147,12 +149,13 @@ std::optional<Use> DependentFormula::find(std::string_view formula, Position at)
                 Area area = formula::area_of(token.reference);
                 std::size_t offset = token.offset;
                 if (joins) {
-                    area = bounding(*last, area);
+                    area = bounding(last, area);
                     offset = last_offset;
                 }
                 if (area.intersection(cells_.area)) return Use{offset, token.end() - offset, {}};
                 joins = false;
                 last = area;
+                has_last = true;
                 last_offset = offset;
                 continue;
             }
@@ -166,7 +169,7 @@ std::optional<Use> DependentFormula::find(std::string_view formula, Position at)
             default:
                 break;
         }
-        last.reset();
+        has_last = false;
         joins = false;
     }
     return std::nullopt;
