@@ -98,8 +98,6 @@ TEST_F(Sure, FormatsOfUnknownConstantsAreRefused) {
         {"", "HorizontalAlignment", 12345},
         {"", "VerticalAlignment", 1},
         {"", "Orientation", 91},
-        {"", "IndentLevel", -1},
-        {"", "IndentLevel", 16},
         {"", "NumberFormat", "0.0.0;;;;;"},
         {"", "NumberFormat", "[Redd]0"},
         {"", "RowHeight", 409.6},
@@ -129,6 +127,12 @@ TEST_F(Sure, FormatsOfUnknownConstantsAreRefused) {
         }
     }
     EXPECT_EQ(refused(range("A1"), "RowHeight", Null{}), hresult::type_mismatch);
+}
+
+TEST_F(Likely, IndentsGoToFifteen) {
+    put(range("A1"), "IndentLevel", 15);
+    for (const int level : {-1, 16}) EXPECT_EQ(refused(range("A1"), "IndentLevel", level), error_1004);
+    EXPECT_EQ(get(range("A1"), "IndentLevel"), Value(15));
 }
 
 TEST_F(Likely, IndentsNeedASide) {

@@ -4,10 +4,10 @@ namespace kestrune::contract {
 namespace {
 
 TEST_F(Sure, MergedCellsHoldTheirFirstContent) {
-    put(range("B1"), "Value", "kept");
+    put(range("A1"), "Value", "kept");
     put(range("C2"), "Value", "lost");
     call(range("A1:C2"), "Merge");
-    EXPECT_EQ(get(range("A1"), "Value"), Value("kept")) << "the first filled cell moves to the corner";
+    EXPECT_EQ(get(range("A1"), "Value"), Value("kept"));
     EXPECT_EQ(get(range("C2"), "Value"), Value());
     EXPECT_EQ(get(range("B2"), "MergeCells"), Value(true));
     EXPECT_EQ(get(range("A1:C3"), "MergeCells"), Value(Null{}));
@@ -23,6 +23,35 @@ TEST_F(Sure, MergedCellsHoldTheirFirstContent) {
     EXPECT_EQ(get(range("A1:C2"), "MergeCells"), Value(false));
     call(range("A1:B3"), "Merge", {true});
     EXPECT_EQ(address(object(range("B3"), "MergeArea")), "$A$3:$B$3");
+}
+
+TEST_F(Likely, MergingMovesTheFirstFilledCellToTheCorner) {
+    put(range("B1"), "Value", "kept");
+    put(range("A2"), "Value", "lost");
+    call(range("A1:C2"), "Merge");
+    EXPECT_EQ(get(range("A1"), "Value"), Value("kept"));
+    call(range("A1"), "UnMerge");
+    EXPECT_EQ(get(range("A1:B2"), "Value"), block({{"kept", Value()}, {Value(), Value()}}));
+}
+
+TEST_F(Sure, SheetsAreProtectedAndUnprotected) {
+    const ObjectRef sheet1 = sheet("Sheet1");
+    call(sheet1, "Protect", {"Secret"});
+    EXPECT_EQ(get(sheet1, "ProtectContents"), Value(true));
+    for (const Arguments& wrong : {Arguments{}, Arguments{"secret"}}) {
+        EXPECT_EQ(call_refused(sheet1, "Unprotect", wrong), error_1004);
+    }
+    EXPECT_EQ(refused(range("A1"), "Value", 1), error_1004);
+    call(sheet1, "Unprotect", {"Secret"});
+    EXPECT_EQ(get(sheet1, "ProtectContents"), Value(false));
+    EXPECT_EQ(call_refused(sheet1, "Unprotect"), ok) << "there is nothing to do";
+    EXPECT_EQ(refused(range("A1"), "Value", 1), ok);
+    call(sheet1, "Protect", Arguments{}.name("UserInterfaceOnly", true));
+    EXPECT_EQ(refused(range("A1"), "Value", 2), ok) << "macros may, people may not";
+    EXPECT_EQ(get(sheet1, "ProtectContents"), Value(true));
+    call(sheet1, "Protect", Arguments{}.name("AllowFormattingColumns", true));
+    EXPECT_EQ(refused(range("A1"), "ColumnWidth", 20), ok);
+    EXPECT_EQ(refused(range("A1"), "RowHeight", 20), error_1004);
 }
 
 TEST_F(Sure, ProtectedSheetsKeepTheirLockedCells) {

@@ -63,8 +63,9 @@ enum class Visibility : std::uint8_t { Visible, Hidden, VeryHidden };
 // What the sheet allows while protected (ECMA-376 18.3.1.85); the password stays in the file.
 struct SheetProtection {
     bool on = false;
-    std::string password;       // as Protect was given it; of a sheet from a file it stays unknown
-    bool format_cells = false;  // true: allowed
+    bool against_people_only = false;  // off for callers of the object model, which are all that there is here
+    std::string password;              // as Protect was given it; of a sheet from a file it stays unknown
+    bool format_cells = false;         // true: allowed
     bool format_columns = false;
     bool format_rows = false;
     bool insert_rows = false;

@@ -20,7 +20,9 @@ class SheetObject : public HostObject<Derived> {
     [[nodiscard]] std::string name() const { return sheet_.name(); }
     [[nodiscard]] ObjectRef parent() const { return workbook_object(this->session(), sheet_.workbook()); }
     [[nodiscard]] std::int32_t index() const { return position_of(sheet_) + 1; }
-    [[nodiscard]] bool protect_contents() const { return sheet_.protection().on; }
+    [[nodiscard]] bool protect_contents() const {
+        return sheet_.protection().on || sheet_.protection().against_people_only;
+    }
     [[nodiscard]] std::int32_t visible() const {  // XlSheetVisibility
         switch (sheet_.visibility) {
             case Visibility::Visible:

@@ -94,8 +94,8 @@ void WorksheetObject::protect(const Value& password, const Value&, const Value& 
                               const Value&) {
     require_protection_allowed("Worksheet.Protect");
     SheetProtection fresh;
-    // Protection of the user interface only leaves macros, and so every caller of the object model, alone.
-    fresh.on = value_or(contents, true) && !value_or(user_interface_only, false);
+    fresh.against_people_only = value_or(contents, true) && value_or(user_interface_only, false);
+    fresh.on = value_or(contents, true) && !fresh.against_people_only;
     fresh.password = value_or(password, std::string());
     fresh.format_cells = value_or(cells, false);
     fresh.format_columns = value_or(columns, false);
@@ -109,7 +109,7 @@ void WorksheetObject::protect(const Value& password, const Value&, const Value& 
 }
 
 void WorksheetObject::unprotect(const Value& password) {
-    if (!sheet().protection().on) return;
+    if (!protect_contents()) return;
     require_protection_allowed("Worksheet.Unprotect");
     if (sheet().protection().password != value_or(password, std::string())) {
         refuse("Worksheet.Unprotect", "the password is not correct");
