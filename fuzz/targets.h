@@ -14,11 +14,12 @@ class Broken : public std::logic_error {
 };
 
 void formula(std::string_view text);
+void xml(std::string_view text);
 
 struct Target {
     std::string_view name;  // also of its folder below fuzz/corpus
     void (*run)(std::string_view input);
 };
-inline constexpr Target targets[] = {{"formula", formula}};
+inline constexpr Target targets[] = {{"formula", formula}, {"xml", xml}};
 
 }  // namespace kestrune::fuzz
