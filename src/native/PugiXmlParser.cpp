@@ -51,8 +51,10 @@ class Element : public brvblib::XmlElement {
         return wrap(node_.find_node([&](const pugi::xml_node& below) { return name == below.name(); }));
     }
     [[nodiscard]] std::vector<XmlElementRef> children(std::string_view name) const override {
+        // The range goes by the text while it runs.
+        const std::string wanted(name);
         std::vector<XmlElementRef> found;
-        for (const pugi::xml_node child : node_.children(std::string(name).c_str())) found.push_back(wrap(child));
+        for (const pugi::xml_node child : node_.children(wanted.c_str())) found.push_back(wrap(child));
         return found;
     }
 
