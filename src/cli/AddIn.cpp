@@ -11,11 +11,12 @@
 
 namespace kestrune::cli {
 
-AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace) {
+AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace,
+             brxllib::CustomFormats* formats) {
     brvblib::Services services = native::services(trace, presenter, installation_folder());
     services.desktop = std::make_shared<PrintingDesktop>();
     brvblib::register_library(std::move(services));
-    brxllib::register_library(trace, {.presenter = &presenter});
+    brxllib::register_library(trace, {.presenter = &presenter, .formats = formats});
     core::register_add_in(presenter, trace, installation_folder());
     public_ = automation::CreateObject("KestruneXL.iPublic");
     // The workbook that stands for the companion add-in is the one being worked on: it has no other here.

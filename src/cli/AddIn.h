@@ -3,6 +3,7 @@
 #include "automation/Conversion.h"
 #include "automation/Object.h"
 #include "automation/Trace.h"
+#include "brxllib/Surroundings.h"
 #include "excel/Application.h"
 #include "forms/Presenter.h"
 
@@ -12,8 +13,9 @@ namespace kestrune::cli {
 // class name and given the application and the workbook, and answers the command object.
 class AddIn {
   public:
-    // Failure when the add-in does not start.
-    AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace);
+    // Failure when the add-in does not start. What it is given outlives it.
+    AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace,
+          brxllib::CustomFormats* formats);
     AddIn(const AddIn&) = delete;
     AddIn& operator=(const AddIn&) = delete;
 

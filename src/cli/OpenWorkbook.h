@@ -4,6 +4,7 @@
 #include <string>
 
 #include "cli/FileStore.h"
+#include "cli/HostFormats.h"
 #include "excel/Application.h"
 #include "host/objects/HostSession.h"
 #include "host/xlsx/WorkbookFile.h"
@@ -21,6 +22,8 @@ class OpenWorkbook {
     void activate() { session_.activate(model()); }
     [[nodiscard]] host::Workbook& model() { return file_->workbook(); }
     [[nodiscard]] const host::HostSession& session() const { return session_; }
+    // What the libraries ask about number formats of open workbooks.
+    [[nodiscard]] HostFormats& formats() { return formats_; }
     [[nodiscard]] host::PackageKind kind() const { return file_->package().kind(); }
     // Writes the workbook whole or not at all; the path may be the one it was opened from.
     void save(const std::string& path) { file_->save(path); }
@@ -29,6 +32,7 @@ class OpenWorkbook {
     std::unique_ptr<host::WorkbookFile> file_;
     FileStore store_;  // what commands open besides
     host::HostSession session_;
+    HostFormats formats_{session_};
     excel::Application application_;
 };
 

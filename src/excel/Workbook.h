@@ -16,6 +16,7 @@ class Workbook : public Facade<Workbook> {
         {"Activate", Access::method},
         {"ActiveSheet", Access::get},
         {"Colors", Access::get_put, "Index"},
+        {"DeleteNumberFormat", Access::method, "NumberFormat!"},
         {"FullName", Access::get},
         {"LinkSources", Access::method, "Type"},
         {"Name", Access::get},
@@ -36,6 +37,8 @@ class Workbook : public Facade<Workbook> {
     // One of the 56 colours of the palette, BGR. Fails outside 1 to 56.
     [[nodiscard]] std::int32_t Colors(Value index) const { return get<std::int32_t>("Colors", std::move(index)); }
     void Colors(std::int32_t index, std::int32_t color) const { put_at("Colors", index, color); }
+    // Fails for a format of Excel's own. Cells that show in it are General afterwards.
+    void DeleteNumberFormat(std::string_view code) const { call("DeleteNumberFormat", code); }
     [[nodiscard]] std::string FullName() const { return get<std::string>("FullName"); }
     // The workbooks that it links to, as paths (an array), or Empty; type: xlExcelLinks.
     [[nodiscard]] Value LinkSources(std::int32_t type) const { return call("LinkSources", type); }

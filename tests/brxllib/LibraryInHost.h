@@ -24,7 +24,7 @@ struct LibraryInHost : testing::Test {
     LibraryInHost() {
         open("Model.xlsx", "/models", {"Sheet1", "Other Sheet"});
         application = excel::Application(host::make_application(session));
-        register_library(trace, {.presenter = &presenter, .formats = formats()});
+        register_library(trace, {.presenter = &presenter});
         library = std::make_unique<core::diBRXLLib>(trace);
         EXPECT_TRUE(library->Create());
         library->set_application(application.object());
@@ -33,8 +33,6 @@ struct LibraryInHost : testing::Test {
         library.reset();
         automation::unregister_class("BRXLLib.iPublic");
     }
-
-    [[nodiscard]] virtual CustomFormats* formats() { return nullptr; }
 
     // Opens a workbook; the last one opened is active.
     host::Workbook& open(std::string name, std::string path, const std::vector<std::string>& sheets) {

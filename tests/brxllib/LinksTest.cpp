@@ -140,6 +140,61 @@ TEST_F(LinksTest, DependentsThroughEveryKindOfReference) {
     EXPECT_EQ(dependents_of(at("Sum", "J5")), std::vector<std::string>{"Sum!$K$5"}) << "a name that moves";
 }
 
+TEST_F(LinksTest, TablesStandForTheirCells) {
+    host::Workbook& budget = *session.find("Budget.xlsx")->model;
+    // Sales: headers in row 3, rows 4 to 8, totals in row 9.
+    budget.read_tables = [] {
+        return std::vector<host::Table>{{"Sales", 0, {3, 2, 9, 4}, true, true, {"Month", "Net [k$]", "Tax"}}};
+    };
+    at("Jan", "B3:D3").Formula("Month");
+    at("Jan", "C3").Value("Net [k$]");
+    at("Jan", "D3").Value("Tax");
+    const struct {
+        const char* sheet;
+        const char* cell;
+        const char* formula;
+        const char* address;  // on Jan; null for no reference
+        bool means_c5;
+    } rows[] = {
+        {"Sum", "A1", "=SUM(Sales)", "$B$4:$D$8", true},
+        {"Sum", "A2", "=SUM(Sales[Tax])", "$D$4:$D$8", false},
+        {"Sum", "A3", "=SUM(Sales['Net '[k$']])", nullptr, false},
+        {"Sum", "A4", "=SUM(Sales[Net '[k$']])", "$C$4:$C$8", true},
+        {"Sum", "A5", "=Sales[[#Totals],[Tax]]", "$D$9", false},
+        {"Sum", "A6", "=COUNTA(Sales[#All])", "$B$3:$D$9", true},
+        {"Sum", "A7", "=SUM(Sales[[Month]:[Net '[k$']]])", "$B$4:$C$8", true},
+        {"Sum", "A8", "=SUM(Sales[[#Headers],[#Data],[Tax]])", "$D$3:$D$8", false},
+        {"Sum", "A9", "=Sales[Gross]", nullptr, false},
+        {"Sum", "B1", "=Sales[@Tax]", nullptr, false},  // no row of the table
+        {"Jan", "F5", "=Sales[@[Net '[k$']]]*2", "$C$5", true},
+        {"Jan", "D6", "=[@[Net '[k$']]]*0.2", "$C$6", false},
+        {"Jan", "F7", "=Sales[[#This Row],[Month]]", "$B$7", false},
+    };
+    std::vector<std::string> expected;
+    for (const auto& row : rows) {
+        at(row.sheet, row.cell).Formula(row.formula);
+        const auto links = library->precedents(at(row.sheet, row.cell).object());
+        ASSERT_EQ(links.size(), row.address ? 1U : 0U) << row.formula;
+        if (row.address) {
+            EXPECT_EQ(links[0].sheet + "!" + links[0].address, std::string("Jan!") + row.address) << row.formula;
+            EXPECT_EQ(links[0].through, "Sales");
+        }
+        if (row.means_c5) expected.push_back(std::string(row.sheet) + "!" + at(row.sheet, row.cell).Address());
+    }
+    EXPECT_THAT(dependents_of(at("Jan", "C5")), testing::UnorderedElementsAreArray(expected));
+}
+
+TEST_F(LinksTest, NumberedLinksLeadToTheirFiles) {
+    host::Workbook& budget = *session.find("Budget.xlsx")->model;
+    budget.read_external_links = [] { return std::vector<std::string>{"/rates/Rates.xlsx", "D:\\far\\Away.xlsx"}; };
+    budget.sheets()[3]->set_formula({1, 1}, "[1]FX!$A$1+'[2]P&L'!B2+[7]Lost!C3+[2]!Tax");
+    EXPECT_EQ(
+        precedents_of(at("Sum", "A1")),
+        (std::vector<std::string>{"[1]FX!$A$1 > /rates[Rates.xlsx]FX!$A$1", "'[2]P&L'!B2 > D:\\far[Away.xlsx]P&L!$B$2",
+                                  "[7]Lost!C3 > [[7]]Lost!$C$3", "[2]!Tax > D:\\far[Away.xlsx]!Tax"}));
+    EXPECT_EQ(dependents_of(at("FX", "A1", "Rates.xlsx")), std::vector<std::string>{"Sum!$A$1"});
+}
+
 TEST_F(LinksTest, DependentsTellTheirFormulas) {
     at("Mar", "C3").Formula("=1+SUM('Jan'!$B$1:$B$4)");
     const auto links = library->dependents(at("Jan", "B2").object());

@@ -18,6 +18,7 @@
 #include "host/objects/HyperlinkObject.h"
 #include "host/objects/HyperlinksObject.h"
 #include "host/objects/InteriorObject.h"
+#include "host/objects/ListObjectsObject.h"
 #include "host/objects/NameObject.h"
 #include "host/objects/NamesObject.h"
 #include "host/objects/OutlineObject.h"
@@ -70,6 +71,8 @@ TEST(ServedMembers, AreExcels) {
         &HyperlinkObject::members(),
         &HyperlinksObject::members(),
         &InteriorObject::members(),
+        &ListObjectObject::members(),
+        &ListObjectsObject::members(),
         &NameObject::members(),
         &NamesObject::members(),
         &OutlineObject::members(),

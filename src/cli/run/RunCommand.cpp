@@ -84,7 +84,7 @@ class Session {
         OpenWorkbook book(options_.workbook);
         if (options_.output) check_output_name(book, options_.workbook, *options_.output);
         if (!steps_.empty()) {
-            AddIn add_in(book.application(), *presenter_, trace_);
+            AddIn add_in(book.application(), *presenter_, trace_, &book.formats());
             ordered_json report = ordered_json::array();
             const std::int32_t looked_at = book.model().active_sheet;
             for (std::size_t i = 0; i < steps_.size(); ++i) {

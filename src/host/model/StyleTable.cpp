@@ -61,7 +61,7 @@ std::uint32_t StyleTable::intern_number_format(std::string_view code) {
         if (!number_formats_.contains(built_in)) return built_in;
     }
     std::uint32_t number = first_custom_number;
-    while (number_formats_.contains(number)) ++number;
+    while (number_formats_.contains(number) || removed_.contains(number)) ++number;
     load_number_format(number, std::move(key));
     return number;
 }
@@ -73,6 +73,15 @@ void StyleTable::load_number_format(std::uint32_t number, std::string code) {
         numbers_by_code_.erase(old);
     numbers_by_code_.emplace(code, number);
     stored = std::move(code);
+}
+
+void StyleTable::remove_number_format(std::uint32_t number) {
+    const auto format = number_formats_.find(number);
+    if (format == number_formats_.end()) return;
+    const auto by_code = numbers_by_code_.find(format->second);
+    if (by_code != numbers_by_code_.end() && by_code->second == number) numbers_by_code_.erase(by_code);
+    number_formats_.erase(format);
+    removed_.insert(number);
 }
 
 StyleId StyleTable::with_font(StyleId base, const std::function<void(Font&)>& change) {

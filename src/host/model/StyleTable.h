@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -89,6 +90,11 @@ class StyleTable {
         return number_formats_;
     }
 
+    // Takes a custom format away; formats that still have its number show General from then on. Its number is not given
+    // again.
+    void remove_number_format(std::uint32_t number);
+    [[nodiscard]] const std::set<std::uint32_t>& removed_number_formats() const { return removed_; }
+
     // The pieces of a format.
     [[nodiscard]] const Font& font_of(StyleId id) const { return fonts[formats[id].font]; }
     [[nodiscard]] const Fill& fill_of(StyleId id) const { return fills[formats[id].fill]; }
@@ -103,6 +109,7 @@ class StyleTable {
   private:
     std::unordered_map<std::uint32_t, std::string> number_formats_;
     std::unordered_map<std::string, std::uint32_t> numbers_by_code_;
+    std::set<std::uint32_t> removed_;
 };
 
 }  // namespace kestrune::host

@@ -76,4 +76,9 @@ std::int32_t Workbook::digit_pixels() const {
     return digit_pixels_of(styles.fonts[font].name, styles.fonts[font].size);
 }
 
+const std::vector<Table>& Workbook::tables() {
+    if (!tables_) tables_ = read_tables ? read_tables() : std::vector<Table>();
+    return *tables_;
+}
+
 }  // namespace kestrune::host

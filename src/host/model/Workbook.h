@@ -2,8 +2,10 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +13,7 @@
 #include "host/model/Sheet.h"
 #include "host/model/StringTable.h"
 #include "host/model/StyleTable.h"
+#include "host/model/Table.h"
 
 namespace kestrune::host {
 
@@ -36,6 +39,12 @@ struct DefinedName {
     std::string source;  // the element as the file has it; empty for a name of ours
 };
 
+// Number formats that parts of a file outside the model show values in: charts, pivot tables.
+struct FormatsElsewhere {
+    std::set<std::uint32_t> numbers;  // as the file numbers them
+    std::set<std::string> codes;      // in the object model's spelling
+};
+
 // A workbook in memory. Knows nothing of files; what reads one fills it and keeps what must be written back.
 class Workbook {
   public:
@@ -52,6 +61,10 @@ class Workbook {
     Palette palette = default_palette();
     bool palette_changed = false;
     Theme theme = Theme::office();
+    // What a file knows and tells when it is asked; none without a file.
+    std::function<FormatsElsewhere()> formats_elsewhere;
+    std::function<std::vector<Table>()> read_tables;
+    std::function<std::vector<std::string>()> read_external_links;
     std::vector<DefinedName> names;
     bool names_changed = false;
     bool date1904 = false;
@@ -64,6 +77,8 @@ class Workbook {
     Sheet& add_sheet(std::string sheet_name, SheetKind kind = SheetKind::Worksheet);
     // At a 0-based position, up to the number of sheets; names and the active sheet stay with theirs.
     Sheet& insert_sheet(std::int32_t position, std::string sheet_name);
+    // The tables of all sheets, read once.
+    [[nodiscard]] const std::vector<Table>& tables();
     [[nodiscard]] Sheet* sheet(std::string_view sheet_name) const;  // whatever its case; null when there is none
 
     // What a colour looks like, BGR: theme and tint worked out, palette entries looked up.
@@ -77,6 +92,7 @@ class Workbook {
 
   private:
     std::vector<std::unique_ptr<Sheet>> sheets_;
+    std::optional<std::vector<Table>> tables_;
 };
 
 }  // namespace kestrune::host

@@ -1,6 +1,10 @@
 #include "host/objects/WorkbookObject.h"
 
+#include <algorithm>
+
+#include "host/model/CustomFormats.h"
 #include "host/objects/NamesObject.h"
+#include "host/objects/Optional.h"
 #include "host/objects/SheetObject.h"
 #include "host/objects/SheetsObject.h"
 #include "host/objects/WindowsObject.h"
@@ -64,6 +68,23 @@ void WorkbookObject::set_colors(const Value& index, const Value& color) {
     session().changed(workbook_);
 }
 
+void WorkbookObject::delete_number_format(const std::string& code) {
+    if (!host::delete_number_format(workbook_, code)) {
+        refuse("Workbook.DeleteNumberFormat", "'" + code + "' is no custom number format of the workbook");
+    }
+    session().changed(workbook_);
+}
+
+Value WorkbookObject::link_sources(const Value& type) const {
+    constexpr std::int32_t xlExcelLinks = 1;
+    if (value_or(type, xlExcelLinks) != xlExcelLinks || !workbook_.read_external_links) return {};
+    const auto paths = workbook_.read_external_links();
+    if (paths.empty()) return {};
+    automation::Array list(automation::Array::Bound{1, static_cast<std::int32_t>(paths.size())});
+    std::ranges::copy(paths, list.elements().begin());
+    return list;
+}
+
 void WorkbookObject::reset_colors() {
     workbook_.palette = default_palette();
     workbook_.palette_changed = true;
@@ -100,7 +121,9 @@ const MemberTable& WorkbookObject::members() {
         property<&W::colors, &W::set_colors>("Colors", 12, "[Index]"), method<&W::reset_colors>("ResetColors", 13),
         property<&W::saved, &W::set_saved>("Saved", 14), read_only<&W::protect_structure>("ProtectStructure", 15),
         read_only<&W::date1904>("Date1904", 16), method<&W::save>("Save", 17),
-        method<&W::close>("Close", 18, "[SaveChanges], [FileName], [RouteWorkbook]"));
+        method<&W::close>("Close", 18, "[SaveChanges], [FileName], [RouteWorkbook]"),
+        method<&W::delete_number_format>("DeleteNumberFormat", 19, "NumberFormat"),
+        method<&W::link_sources>("LinkSources", 20, "[Type]"));
     static constexpr MemberTable table("Workbook", rows);
     return table;
 }

@@ -23,7 +23,11 @@ class WorkbookObject final : public HostObject<WorkbookObject> {
     // The palette, BGR: one of 1 to 56, or all of them as an array.
     [[nodiscard]] Value colors(const Value& index) const;
     void set_colors(const Value& index, const Value& color);
+    // The workbooks that formulas link to, as paths (XlLink: xlExcelLinks); Empty when there are none.
+    [[nodiscard]] Value link_sources(const Value& type) const;
     void reset_colors();
+    // What shows in it is General afterwards. Error 1004 for a built-in format and one that is not there.
+    void delete_number_format(const std::string& code);
     [[nodiscard]] bool saved() const { return session().opened(workbook_).saved; }
     void set_saved(bool saved) { session().opened(workbook_).saved = saved; }
     // Writes it into the file that it came from; error 1004 when it came from none.

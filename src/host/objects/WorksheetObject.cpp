@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "host/objects/HyperlinksObject.h"
+#include "host/objects/ListObjectsObject.h"
 #include "host/objects/NamesObject.h"
 #include "host/objects/Optional.h"
 #include "host/objects/OutlineObject.h"
@@ -49,6 +50,7 @@ ObjectRef WorksheetObject::used_range() const {
     return std::make_shared<RangeObject>(CellRange(session(), sheet(), {sheet().used_area()}));
 }
 
+ObjectRef WorksheetObject::list_objects() const { return std::make_shared<ListObjectsObject>(session(), sheet()); }
 ObjectRef WorksheetObject::names() const { return std::make_shared<NamesObject>(session(), sheet()); }
 ObjectRef WorksheetObject::outline() const { return std::make_shared<OutlineObject>(session(), sheet()); }
 ObjectRef WorksheetObject::hyperlinks() const { return std::make_shared<HyperlinksObject>(session(), sheet()); }
@@ -139,7 +141,7 @@ const MemberTable& WorksheetObject::members() {
                             "[AllowDeletingColumns], [AllowDeletingRows], [AllowSorting], [AllowFiltering], "
                             "[AllowUsingPivotTables]"),
         method<&W::unprotect>("Unprotect", 22, "[Password]"), read_only<&W::protection>("Protection", 23),
-        read_only<&W::protection_mode>("ProtectionMode", 24));
+        read_only<&W::protection_mode>("ProtectionMode", 24), read_only<&W::list_objects>("ListObjects", 25));
     static constexpr MemberTable table("Worksheet", rows);
     return table;
 }

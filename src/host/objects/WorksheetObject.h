@@ -16,6 +16,7 @@ class WorksheetObject final : public SheetObject<WorksheetObject> {
     [[nodiscard]] ObjectRef columns() const;
     [[nodiscard]] ObjectRef used_range() const;
     [[nodiscard]] ObjectRef names() const;
+    [[nodiscard]] ObjectRef list_objects() const;
     [[nodiscard]] ObjectRef outline() const;
     [[nodiscard]] ObjectRef hyperlinks() const;
     [[nodiscard]] ObjectRef protection() const;

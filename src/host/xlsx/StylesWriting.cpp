@@ -94,7 +94,22 @@ class StylesWriter {
             append_escaped_attribute(entries, book_.styles.number_format(number));
             entries += "\"/>";
         }
-        extend("numFmts", entries, numbers.size());
+        if (book_.styles.removed_number_formats().empty())
+            extend("numFmts", entries, numbers.size());
+        else
+            rewrite_number_formats(entries, numbers.size());
+    }
+
+    // Formats that show in what was taken away are General.
+    void forget_removed_number_formats() {
+        const auto& removed = book_.styles.removed_number_formats();
+        if (removed.empty()) return;
+        for (const std::string_view list : {"cellStyleXfs", "cellXfs"}) {
+            const auto element = root_.child(list);
+            for (auto xf = element ? element.first_child() : XmlElement(); xf; xf = xf.next()) {
+                if (is_removed(xf)) edits_.set_attribute(xf, "numFmtId", "0");
+            }
+        }
     }
 
     template <class Numbered>
@@ -156,6 +171,28 @@ class StylesWriter {
     std::string apply() { return edits_.apply(root_.document()); }
 
   private:
+    [[nodiscard]] bool is_removed(const XmlElement& element) const {
+        const auto number = element.integer("numFmtId", -1);
+        return number >= 0 && number <= 0x7FFFFFFF &&
+               book_.styles.removed_number_formats().contains(static_cast<std::uint32_t>(number));
+    }
+
+    // The list without what was taken away, and with the new entries.
+    void rewrite_number_formats(std::string_view added, std::size_t count) {
+        const auto list = root_.child("numFmts");
+        if (!list) return extend("numFmts", added, count);
+        std::string entries;
+        for (auto child = list.first_child(); child; child = child.next()) {
+            if (is_removed(child)) continue;
+            entries += child.source();
+            ++count;
+        }
+        entries += added;
+        if (entries.empty()) return edits_.remove(list.begin(), list.end() - list.begin());
+        edits_.set_content(list, entries);
+        if (list.attribute("count")) edits_.set_attribute(list, "count", std::to_string(count));
+    }
+
     void append_palette_entry(std::string& out, std::uint32_t bgr) const {
         out.append("<").append(root_.prefix()).append("rgbColor rgb=\"00").append(argb_text(bgr).substr(2));
         out += "\"/>";
@@ -171,7 +208,8 @@ class StylesWriter {
 bool styles_changed(const Workbook& book, const StylesLayout& layout, const FileNumbers& formats) {
     // A file without formats shows all cells in the default one without having it written down.
     return formats.size() > std::max<std::uint32_t>(layout.formats, 1) ||
-           book.styles.differentials.size() > layout.differentials || book.palette_changed;
+           book.styles.differentials.size() > layout.differentials || book.palette_changed ||
+           !book.styles.removed_number_formats().empty();
 }
 
 std::string write_styles(std::string text, Workbook& book, const StylesLayout& layout, const FileNumbers& formats) {
@@ -193,6 +231,7 @@ std::string write_styles(std::string text, Workbook& book, const StylesLayout& l
     StylesWriter writer(text, book);
     const auto numbered = [&](const CellFormat& format) { return pieces.numbered(format); };
     writer.extend_number_formats(pieces.number_formats, layout.number_formats);
+    writer.forget_removed_number_formats();
     writer.extend("fonts", styles.fonts, pieces.fonts, append_font);
     writer.extend("fills", styles.fills, pieces.fills, append_fill);
     writer.extend("borders", styles.borders, pieces.borders, append_border);

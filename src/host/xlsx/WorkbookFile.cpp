@@ -4,9 +4,11 @@
 #include <filesystem>
 #include <utility>
 
+#include "host/xlsx/FormatsElsewhere.h"
 #include "host/xlsx/SheetReader.h"
 #include "host/xlsx/SheetWriter.h"
 #include "host/xlsx/StringsReader.h"
+#include "host/xlsx/TablesReading.h"
 #include "host/xlsx/ThemePart.h"
 #include "host/xlsx/WorkbookPart.h"
 
@@ -40,6 +42,13 @@ WorkbookFile::WorkbookFile(Package package) : package_(std::move(package)) {
     const auto absolute = std::filesystem::absolute(path, ignored);
     book_.path = ignored ? std::string() : absolute.parent_path().string();
 
+    book_.formats_elsewhere = [this] { return read_formats_elsewhere(package_); };
+    book_.read_tables = [this] {
+        std::vector<std::string> parts;
+        for (const SheetPart& sheet : sheets_) parts.push_back(sheet.name);
+        return read_tables(package_, parts);
+    };
+    book_.read_external_links = [this] { return read_external_links(package_, book_.path); };
     const auto main = package_.workbook_part();
     for (auto& part : read_workbook_part(package_, book_)) sheets_.push_back({std::move(part), {}, false});
     active_in_file_ = book_.active_sheet;
