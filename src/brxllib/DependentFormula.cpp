@@ -114,12 +114,12 @@ bool DependentFormula::token_means_cells(std::string_view formula, const Token& 
     if (known == words_.end()) {
         const bool site = token.kind == TokenKind::structured ? means_own_row(words.substr(token.prefix))
                                                               : moves(book_, sheet_, words.substr(token.prefix));
-        Verdict verdict = Verdict::DependsOnSite;
-        if (!site) verdict = means_cells(words, at) ? Verdict::Always : Verdict::Never;
-        known = words_.emplace(words, verdict).first;
+        Verdict verdict;
+        verdict.depends_on_site = site;
+        if (!site) verdict.through = means_cells(words, at);
+        known = words_.emplace(words, std::move(verdict)).first;
     }
-    if (known->second == Verdict::Never) return false;
-    const auto means = means_cells(words, at);
+    const auto means = known->second.depends_on_site ? means_cells(words, at) : known->second.through;
     if (means) through = *means;
     return means.has_value();
 }

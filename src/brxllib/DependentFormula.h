@@ -37,7 +37,11 @@ class DependentFormula {
     [[nodiscard]] std::optional<Use> find(std::string_view formula, formula::Position at);
 
   private:
-    enum class Verdict : std::uint8_t { Never, Always, DependsOnSite };
+    // What a name or a structured reference is known to mean, wherever it stands or only where it stood.
+    struct Verdict {
+        bool depends_on_site = false;
+        std::optional<std::string> through;  // nothing when it does not mean the cells
+    };
 
     [[nodiscard]] bool could_mean(std::string_view formula) const;
     [[nodiscard]] bool means_sheet(std::string_view prefix);

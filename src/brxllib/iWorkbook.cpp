@@ -67,13 +67,21 @@ Value iWorkbook::unused_number_formats(const automation::ObjectRef& workbook, co
     return list_of(unused);
 }
 
+automation::ObjectRef iWorkbook::open(const std::string& path) {
+    const automation::ResumeNext attempt(library_->trace);
+    excel::Workbook workbook;
+    attempt.assign(workbook, [&] { return library_->application.Workbooks().Open(path); });
+    return workbook.object();
+}
+
 const MemberTable& iWorkbook::members() {
     static constexpr auto rows = automation::member_rows(
         method<&iWorkbook::may_run_command>("MayRunCommand", 1),
         method<&iWorkbook::nearest_color_index>("NearestColorIndex", 2, "Color, Workbook"),
         method<&iWorkbook::invalid_names>("InvalidNames", 3, "Workbook"),
         method<&iWorkbook::remove_invalid_names>("RemoveInvalidNames", 4, "Workbook"),
-        method<&iWorkbook::unused_number_formats>("UnusedNumberFormats", 5, "Workbook, FormatsInUse"));
+        method<&iWorkbook::unused_number_formats>("UnusedNumberFormats", 5, "Workbook, FormatsInUse"),
+        method<&iWorkbook::open>("Open", 6, "Path"));
     static constexpr MemberTable table("iWorkbook", rows);
     return table;
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <string>
 #include <utility>
 
 #include "automation/MemberTable.h"
@@ -32,6 +33,9 @@ class iWorkbook : public automation::Served<iWorkbook> {
     // workbook's formats there are none.
     [[nodiscard]] automation::Value unused_number_formats(const automation::ObjectRef& workbook,
                                                           const automation::Value& formats_in_use) const;
+
+    // Opens the workbook of a file and makes it the active one; Nothing when it cannot be opened.
+    automation::ObjectRef open(const std::string& path);
 
     std::shared_ptr<Library> library_;
 };

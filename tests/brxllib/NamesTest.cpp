@@ -62,6 +62,29 @@ TEST_F(NamesTest, InvalidOnesGoAndNothingElse) {
     EXPECT_THROW((void)library->remove_invalid_names(nullptr), automation::AutomationError);
 }
 
+TEST_F(NamesTest, WorkbooksOpenByTheirPaths) {
+    struct Stored : host::StoredWorkbook {
+        host::Workbook model;
+        host::Workbook& workbook() override { return model; }
+        void save() override {}
+    };
+    struct Store : host::WorkbookStore {
+        std::unique_ptr<host::StoredWorkbook> open(const std::string& path) override {
+            if (path != "/plans/Plan.xlsx") return nullptr;
+            auto stored = std::make_unique<Stored>();
+            stored->model.name = "Plan.xlsx";
+            stored->model.path = "/plans";
+            stored->model.add_sheet("Sheet1");
+            return stored;
+        }
+    } store;
+    session.store = &store;
+    EXPECT_EQ(library->open_workbook("/plans/Moved.xlsx"), nullptr);
+    const ObjectRef opened = library->open_workbook("/plans/Plan.xlsx");
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(excel::Workbook(opened).Name(), application.ActiveWorkbook().Name());
+}
+
 TEST(SystemNames, AreToldWhateverTheirCase) {
     for (const char* name :
          {"print_titles", "SOLVER_num", "_XLPM.rate", "wrn.Report.", "Slicer_Region", "bbr.topic.start.ebr"})

@@ -106,6 +106,10 @@ std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows
     return automation::to_text(call(Formula, "Shift", {formula, rows, columns, row, column}));
 }
 
+ObjectRef diBRXLLib::open_workbook(std::string_view path) const {
+    return automation::to_object(call(Workbook, "Open", {path}));
+}
+
 std::vector<std::string> diBRXLLib::invalid_names(const ObjectRef& workbook) const {
     return texts_of(call(Workbook, "InvalidNames", {workbook}));
 }

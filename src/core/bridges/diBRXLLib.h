@@ -89,6 +89,8 @@ class diBRXLLib : public LibraryBridge {
     [[nodiscard]] std::string shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns,
                                             std::int32_t row, std::int32_t column) const;
 
+    // Opens the workbook of a file and makes it the active one; Nothing when it cannot be opened.
+    [[nodiscard]] automation::ObjectRef open_workbook(std::string_view path) const;
     // The names of a workbook whose reference is invalid and that nobody but the user owns.
     [[nodiscard]] std::vector<std::string> invalid_names(const automation::ObjectRef& workbook) const;
     // Deletes them; how many went.
