@@ -1,6 +1,7 @@
 #include "brxllib/Table.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "automation/Text.h"
 
@@ -32,6 +33,31 @@ std::vector<std::string> pieces_of(std::string_view inside) {
         }
     }
     return pieces;
+}
+
+struct Columns {
+    std::int32_t first = 0;  // on the sheet; 0 for none
+    std::int32_t last = 0;
+};
+
+// The column of a name. Behind hidden headers nobody tells the names: there "Column3" is the third, as Excel names
+// columns by itself, and any other name may be each of them.
+Columns columns_called(const Table& table, std::string_view trimmed, std::string_view exact) {
+    const auto found = std::ranges::find_if(
+        table.columns, [&](const auto& name) { return same_text(name, trimmed) || same_text(name, exact); });
+    if (found != table.columns.end()) {
+        const auto column = table.all.first_column + static_cast<std::int32_t>(found - table.columns.begin());
+        return {column, column};
+    }
+    if (!table.columns.empty()) return {};
+    constexpr std::string_view stem = "Column";
+    std::int32_t number = 0;
+    if (same_text(trimmed.substr(0, stem.size()), stem)) {
+        const std::string_view digits = trimmed.substr(stem.size());
+        std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    }
+    if (number < 1 || number > table.all.columns()) return {table.all.first_column, table.all.last_column};
+    return {table.all.first_column + number - 1, table.all.first_column + number - 1};
 }
 
 }  // namespace
@@ -75,12 +101,10 @@ std::optional<Area> cells_of_structured(const Table& table, std::string_view spe
             if (!table.totals) return std::nullopt;
             take_rows(table.all.last_row, table.all.last_row);
         } else {
-            const auto found = std::ranges::find_if(
-                table.columns, [&](const auto& name) { return same_text(name, text) || same_text(name, piece); });
-            if (found == table.columns.end()) return std::nullopt;
-            const auto column = table.all.first_column + static_cast<std::int32_t>(found - table.columns.begin());
-            first_column = std::min(first_column.value_or(column), column);
-            last_column = std::max(last_column, column);
+            const auto [first, last] = columns_called(table, text, piece);
+            if (first == 0) return std::nullopt;
+            first_column = std::min(first_column.value_or(first), first);
+            last_column = std::max(last_column, last);
         }
     }
     if (own_row) take_rows(row, row);

@@ -144,7 +144,8 @@ TEST_F(LinksTest, TablesStandForTheirCells) {
     host::Workbook& budget = *session.find("Budget.xlsx")->model;
     // Sales: headers in row 3, rows 4 to 8, totals in row 9.
     budget.read_tables = [] {
-        return std::vector<host::Table>{{"Sales", 0, {3, 2, 9, 4}, true, true, {"Month", "Net [k$]", "Tax"}}};
+        return std::vector<host::Table>{{"Sales", 0, {3, 2, 9, 4}, true, true, {"Month", "Net [k$]", "Tax"}},
+                                        {"Bare", 2, {3, 2, 9, 4}, false, false, {"Column1", "Column2", "Net"}}};
     };
     at("Jan", "B3:D3").Formula("Month");
     at("Jan", "C3").Value("Net [k$]");
@@ -181,6 +182,12 @@ TEST_F(LinksTest, TablesStandForTheirCells) {
         if (row.means_c5) expected.push_back(std::string(row.sheet) + "!" + at(row.sheet, row.cell).Address());
     }
     EXPECT_THAT(dependents_of(at("Jan", "C5")), testing::UnorderedElementsAreArray(expected));
+
+    // A table without headers tells no names of its columns.
+    at("Sum", "C1").Formula("=SUM(Bare[Column2])+SUM(Bare[Net])");
+    const auto links = library->precedents(at("Sum", "C1").object());
+    ASSERT_EQ(links.size(), 2U);
+    EXPECT_EQ(links[0].address + " " + links[1].address, "$C$3:$C$9 $B$3:$D$9");
 }
 
 TEST_F(LinksTest, NumberedLinksLeadToTheirFiles) {
