@@ -3,6 +3,7 @@
 #include <map>
 
 #include "brvblib/LibraryTest.h"
+#include "brvblib/TestFolder.h"
 #include "native/ProductFile.h"
 #include "native/UserFolders.h"
 
@@ -17,19 +18,14 @@ using testing::IsEmpty;
 namespace fs = std::filesystem;
 
 struct ProductFileTest : brvblib::LibraryTest {
-    ProductFileTest() {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
-    }
-    ~ProductFileTest() override { fs::remove_all(folder); }
-
     void load_with(std::string_view bytes) {
         std::ofstream(file, std::ios::binary) << bytes;
         services.products = std::make_shared<ProductFile>(file.string(), trace);
         load();
     }
 
-    fs::path folder = fs::temp_directory_path() / "kestrune product";
+    brvblib::TestFolder place;
+    const fs::path& folder = place.path();
     fs::path file = folder / "kestrune.conf";
 };
 

@@ -7,6 +7,7 @@
 #include "brvblib/LibraryTest.h"
 #include "brvblib/Paths.h"
 #include "brvblib/SystemServices.h"
+#include "brvblib/TestFolder.h"
 
 namespace kestrune::brvblib {
 namespace {
@@ -37,14 +38,11 @@ struct FakeDesktop : Desktop {
 
 struct ServicesTest : LibraryTest {
     ServicesTest() {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
         add_system_services(services);
         services.desktop = desktop;
         services.now = [] { return Date{46348.878530092594}; };
         load();
     }
-    ~ServicesTest() override { fs::remove_all(folder); }
 
     [[nodiscard]] std::string path(const char* name) const { return to_utf8(folder / name); }
     void put_file(const char* name) const { std::ofstream(folder / name) << name; }
@@ -54,7 +52,8 @@ struct ServicesTest : LibraryTest {
         return names;
     }
 
-    fs::path folder = fs::temp_directory_path() / "kestrune services";
+    TestFolder place;
+    const fs::path& folder = place.path();
     std::shared_ptr<FakeDesktop> desktop = std::make_shared<FakeDesktop>();
 };
 

@@ -5,6 +5,7 @@
 
 #include "brvblib/LibraryTest.h"
 #include "brvblib/SystemServices.h"
+#include "brvblib/TestFolder.h"
 
 namespace kestrune::brvblib {
 namespace {
@@ -48,12 +49,9 @@ const std::pair<const char*, Value> leaves[] = {
 
 struct XmlTest : LibraryTest {
     XmlTest() {
-        fs::remove_all(folder);
-        fs::create_directories(folder);
         add_system_services(services);
         load();
     }
-    ~XmlTest() override { fs::remove_all(folder); }
 
     [[nodiscard]] std::string path(const char* name) const {
         const std::u8string text = (folder / name).u8string();
@@ -96,7 +94,8 @@ struct XmlTest : LibraryTest {
         wrapper.xml_end_element("Kestrune");
     }
 
-    fs::path folder = fs::temp_directory_path() / fs::path(u8"kestrune xml \u00E4");
+    TestFolder place;
+    const fs::path& folder = place.path();
 };
 
 TEST_F(XmlTest, WritesTheSameFileOnEverySystem) {
