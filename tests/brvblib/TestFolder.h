@@ -18,9 +18,9 @@ class TestFolder {
     [[nodiscard]] const std::filesystem::path& path() const { return path_; }
 
   private:
-    std::filesystem::path path_ = std::filesystem::temp_directory_path() /
-                                  std::filesystem::path(u8"kestrune test \u00E4 ").concat(
-                                      std::to_string(std::random_device{}()));
+    std::filesystem::path path_ =
+        std::filesystem::temp_directory_path() /
+        std::filesystem::path(u8"kestrune test \u00E4 ").concat(std::to_string(std::random_device{}()));
 };
 
 }  // namespace kestrune::brvblib
