@@ -10,7 +10,7 @@ namespace kestrune::native {
 using Environment = std::function<std::optional<std::string>(const char* name)>;
 std::optional<std::string> environment_variable(const char* name);
 
-// Where a desktop of Linux keeps things, by the XDG base directory specification: $XDG_CONFIG_HOME, else .config in
+// Where a desktop of Linux keeps things, by the XDG base directories: $XDG_CONFIG_HOME, else .config in
 // the home folder; $XDG_CONFIG_DIRS, else /etc/xdg. Paths that are not absolute count as not set, as it demands.
 
 // The user's folder for the product, ".../brannoch/kestrune/"; empty for a user without a home.
