@@ -11,7 +11,7 @@ using Environment = std::function<std::optional<std::string>(const char* name)>;
 std::optional<std::string> environment_variable(const char* name);
 
 // Where a desktop of Linux keeps things, by the XDG base directories: $XDG_CONFIG_HOME, else .config in
-// the home folder; $XDG_CONFIG_DIRS, else /etc/xdg. Paths that are not absolute count as not set, as it demands.
+// the home folder; $XDG_CONFIG_DIRS, else /etc/xdg. Paths that are not absolute count as not set, as those demand.
 
 // The user's folder for the product, ".../brannoch/kestrune/"; empty for a user without a home.
 std::string data_folder(const Environment& environment = &environment_variable);
