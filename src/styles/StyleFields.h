@@ -73,6 +73,7 @@ struct StyleFields {
 
     std::int32_t Category = category::none;
     std::int32_t AccessLevel = 0;  // 0 free to edit, 2 a shipped standard style
+    std::string Comments;
 
     bool operator==(const StyleFields&) const = default;
 };

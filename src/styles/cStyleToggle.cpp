@@ -5,6 +5,7 @@ namespace kestrune::styles {
 std::shared_ptr<cStyleToggle> cStyleToggle::Copy(const cStyleToggle* source) {
     if (!source) return nullptr;
     auto copy = std::make_shared<cStyleToggle>(source->Name);
+    copy->AccessLevel = source->AccessLevel;
     if (source->Styles) {
         for (std::int32_t i = 1; i <= source->Styles->Count(); ++i) copy->Styles->Add(source->Styles->Item(i));
     }

@@ -15,9 +15,10 @@ class cStyleToggle {
     explicit cStyleToggle(std::string name = {}) : Name(std::move(name)) {}
 
     std::string Name;
+    std::int32_t AccessLevel = 0;  // 0 free to edit
     StylesRef Styles = std::make_shared<cStyles>();
 
-    // A new cycle with the same name and the same style objects. Null for no source.
+    // A new cycle with the same name and access level and the same style objects. Null for no source.
     [[nodiscard]] static std::shared_ptr<cStyleToggle> Copy(const cStyleToggle* source);
 
     // Position 0 applies the style that follows the one that the range shows, the first when it shows
