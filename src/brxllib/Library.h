@@ -7,6 +7,7 @@
 #include "automation/Text.h"
 #include "automation/Trace.h"
 #include "brxllib/Surroundings.h"
+#include "brxllib/undo/Stack.h"
 #include "excel/Application.h"
 
 namespace kestrune::brxllib {
@@ -25,6 +26,7 @@ struct Library {
     Surroundings around;
     // What clients gave the library to call back, by the clients' names.
     std::map<std::string, automation::ObjectRef, automation::TextLess> callbacks{};
+    undo::Stack undo{};
 };
 
 }  // namespace kestrune::brxllib

@@ -1,0 +1,151 @@
+#include "brxllib/undo/Stack.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "automation/AutomationError.h"
+
+namespace kestrune::brxllib::undo {
+
+using automation::AutomationError;
+
+namespace {
+
+std::size_t bytes_of(const std::deque<Step>& steps) {
+    std::size_t sum = 0;
+    for (const Step& step : steps) sum += step.bytes();
+    return sum;
+}
+
+void apply(Change& change, Direction direction) {
+    if (direction == Direction::Undo) {
+        change.undo();
+    } else {
+        change.redo();
+    }
+}
+
+// Moves the changes from first to last; on an obstacle moves those back that have gone already.
+template <class Iterator>
+std::optional<Obstacle> move_all(Iterator first, Iterator last, Direction direction) {
+    const Direction back = direction == Direction::Undo ? Direction::Redo : Direction::Undo;
+    std::optional<Obstacle> obstacle;
+    Iterator at = first;
+    for (; at != last && !obstacle; ++at) {
+        try {
+            obstacle = (*at)->obstacle(direction);
+            if (!obstacle) apply(**at, direction);
+        } catch (const AutomationError& error) {
+            obstacle = Obstacle{error.description(), error.code() == automation::hresult::workbook_gone ||
+                                                         error.code() == automation::hresult::object_required};
+        }
+    }
+    if (!obstacle) return {};
+    --at;  // the one that did not go
+    while (at != first) {
+        --at;
+        try {
+            apply(**at, back);
+        } catch (const AutomationError& error) {
+            obstacle->why += "; not all of it could be put back: " + error.description();
+            obstacle->lasting = true;
+        }
+    }
+    return obstacle;
+}
+
+}  // namespace
+
+void Stack::begin(std::string description) {
+    end_point();
+    if (depth_++ == 0) open_ = std::make_unique<Step>(Step{std::move(description)});
+}
+
+void Stack::begin_point(std::string description) {
+    end_point();
+    if (!open_) open_ = std::make_unique<Step>(Step{std::move(description)});
+}
+
+void Stack::add(std::unique_ptr<Change> change) {
+    if (!open_) {
+        throw AutomationError(automation::hresult::excel_error, "iUndoRedo.Record", "no step is open");
+    }
+    open_->changes.push_back(std::move(change));
+}
+
+void Stack::end() {
+    if (depth_ == 0) return end_point();
+    if (--depth_ == 0) close();
+}
+
+void Stack::end_point() {
+    if (depth_ == 0 && open_) close();
+}
+
+void Stack::close() {
+    const std::unique_ptr<Step> step = std::move(open_);
+    std::erase_if(step->changes, [](const auto& change) {
+        try {
+            return !change->finish();
+        } catch (const AutomationError&) {
+            return true;  // what cannot be looked at any more cannot be given back
+        }
+    });
+    if (step->changes.empty()) return;
+    undone_.clear();
+    done_.push_back(std::move(*step));
+    trim();
+}
+
+Outcome Stack::move(Direction direction) {
+    using Kind = Outcome::Kind;
+    if (is_running()) return {Kind::Refused, {}, "a command is running"};
+    end_point();
+    Steps& from = direction == Direction::Undo ? done_ : undone_;
+    Steps& to = direction == Direction::Undo ? undone_ : done_;
+    if (from.empty()) return {};
+
+    auto& changes = from.back().changes;
+    const auto obstacle = direction == Direction::Undo ? move_all(changes.rbegin(), changes.rend(), direction)
+                                                       : move_all(changes.begin(), changes.end(), direction);
+    if (obstacle) {
+        Outcome outcome{obstacle->lasting ? Kind::Withdrawn : Kind::Refused, from.back().description, obstacle->why};
+        if (obstacle->lasting) from.pop_back();
+        return outcome;
+    }
+    to.push_back(std::move(from.back()));
+    from.pop_back();
+    return {Kind::Done, to.back().description, {}};
+}
+
+std::vector<std::string_view> Stack::descriptions(const Steps& steps) {
+    std::vector<std::string_view> list;
+    std::ranges::transform(steps.rbegin(), steps.rend(), std::back_inserter(list),
+                           [](const Step& step) -> std::string_view { return step.description; });
+    return list;
+}
+
+std::size_t Stack::bytes() const { return bytes_of(done_) + bytes_of(undone_) + (open_ ? open_->bytes() : 0); }
+
+void Stack::set_limits(const Limits& limits) {
+    limits_ = limits;
+    trim();
+}
+
+void Stack::clear() {
+    done_.clear();
+    undone_.clear();
+    if (depth_ == 0) open_.reset();
+}
+
+void Stack::trim() {
+    // What was undone longest ago is wanted least after the oldest steps.
+    while (done_.size() + undone_.size() > limits_.steps || bytes() > limits_.bytes) {
+        Steps& oldest = done_.empty() ? undone_ : done_;
+        if (oldest.empty()) return;
+        oldest.pop_front();
+    }
+}
+
+}  // namespace kestrune::brxllib::undo

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "brxllib/undo/Step.h"
+
+namespace kestrune::brxllib::undo {
+
+// How much undo remembers. The oldest steps go first.
+struct Limits {
+    std::size_t steps = 100;
+    std::size_t bytes = std::size_t{64} << 20;
+};
+
+// What became of a press of undo or redo.
+struct Outcome {
+    enum class Kind : std::uint8_t {
+        Done,
+        Nothing,    // there is no step
+        Refused,    // the step stays where it is
+        Withdrawn,  // the step can never be undone (redone) again, and is gone
+    };
+    Kind kind = Kind::Nothing;
+    std::string description{};  // of the step
+    std::string why{};          // it did not go: a clause for a person
+};
+
+// The steps that can be undone, and those undone that can be done again.
+class Stack {
+  public:
+    // Opens a step. Inside an open one it joins that: the outermost description stands. An undo point ends here.
+    void begin(std::string description);
+    // Opens a step that ends with the next step, undo or redo.
+    void begin_point(std::string description);
+    [[nodiscard]] bool is_open() const { return open_ != nullptr; }
+    // Puts a change on record, before it happens. Fails with AutomationError while no step is open.
+    void add(std::unique_ptr<Change> change);
+    // Ends the step. One without a change leaves no trace; any other goes on top, and nothing can be redone any more.
+    void end();
+
+    // Whether a command is between its begin and its end.
+    [[nodiscard]] bool is_running() const { return depth_ > 0; }
+
+    // Takes the last step back, whole or not at all. While a command runs, refused.
+    Outcome undo() { return move(Direction::Undo); }
+    Outcome redo() { return move(Direction::Redo); }
+
+    // What undo and redo would do now, the next one first.
+    [[nodiscard]] std::vector<std::string_view> undoable() const { return descriptions(done_); }
+    [[nodiscard]] std::vector<std::string_view> redoable() const { return descriptions(undone_); }
+
+    [[nodiscard]] std::size_t bytes() const;
+    [[nodiscard]] const Limits& limits() const { return limits_; }
+    // Lets go of what passes the new limits at once.
+    void set_limits(const Limits& limits);
+    // Forgets all steps, an undo point included. A command that runs keeps what it has on record.
+    void clear();
+
+  private:
+    using Steps = std::deque<Step>;  // the next one at the back
+
+    static std::vector<std::string_view> descriptions(const Steps& steps);
+    Outcome move(Direction direction);
+    void end_point();
+    void close();
+    void trim();
+
+    Limits limits_;
+    Steps done_;
+    Steps undone_;
+    std::unique_ptr<Step> open_;
+    int depth_ = 0;  // of begin; 0 for an undo point
+};
+
+}  // namespace kestrune::brxllib::undo

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "brxllib/undo/Change.h"
+
+namespace kestrune::brxllib::undo {
+
+// What one press of undo takes back: a command, or what happened since an undo point.
+struct Step {
+    std::string description;  // "Currency SmartCycle on Model!B4:F20"
+    std::vector<std::unique_ptr<Change>> changes{};
+
+    [[nodiscard]] std::size_t bytes() const {
+        std::size_t sum = sizeof(Step) + description.size();
+        for (const auto& change : changes) sum += change->bytes();
+        return sum;
+    }
+};
+
+}  // namespace kestrune::brxllib::undo
