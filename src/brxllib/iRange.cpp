@@ -2,6 +2,7 @@
 
 #include "brxllib/ContentKind.h"
 #include "brxllib/Links.h"
+#include "brxllib/NumberFormatParts.h"
 #include "excel/Worksheet.h"
 
 namespace kestrune::brxllib {
@@ -37,10 +38,23 @@ Value iRange::dependents(const ObjectRef& cell) const {
     return array_of(brxllib::dependents(library_->application, excel::Range(cell)));
 }
 
+Value iRange::number_formats(const ObjectRef& object) const {
+    const auto parts = number_format_parts(excel::Range(object));
+    if (parts.empty()) return {};
+    Array answer(Array::Bound{1, static_cast<std::int32_t>(parts.size())}, Array::Bound{1, 2});
+    auto element = answer.elements().begin();
+    for (const auto& [address, code] : parts) {
+        *element++ = address;
+        *element++ = code;
+    }
+    return answer;
+}
+
 const MemberTable& iRange::members() {
     static constexpr auto rows = automation::member_rows(
         method<&iRange::content_kind>("ContentKind", 1, "Range"), method<&iRange::in_use>("InUse", 2, "Range"),
-        method<&iRange::precedents>("Precedents", 3, "Cell"), method<&iRange::dependents>("Dependents", 4, "Cell"));
+        method<&iRange::precedents>("Precedents", 3, "Cell"), method<&iRange::dependents>("Dependents", 4, "Cell"),
+        method<&iRange::number_formats>("NumberFormats", 5, "Range"));
     static constexpr MemberTable table("iRange", rows);
     return table;
 }

@@ -24,6 +24,10 @@ class iRange : public automation::Served<iRange> {
     [[nodiscard]] automation::Value precedents(const automation::ObjectRef& cell) const;
     [[nodiscard]] automation::Value dependents(const automation::ObjectRef& cell) const;
 
+    // What cells of a range have which number format: rows of an address on the range's sheet and the format; see
+    // NumberFormatParts.h.
+    [[nodiscard]] automation::Value number_formats(const automation::ObjectRef& range) const;
+
     std::shared_ptr<Library> library_;
 };
 

@@ -1,10 +1,15 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "core/bridges/SharedState.h"
+#include "excel/Range.h"
 
 namespace kestrune::styles {
 
@@ -31,7 +36,31 @@ class cLongToggle {
     // Whether a value is one of the settings, or of what Excel made of them.
     [[nodiscard]] bool IncludesSetting(double value, bool as_read) const;
 
+    // Steps a range through the values of a property. Position 0 gives the whole range the value behind the one that
+    // its top-left cell shows, the first when that shows none but the last; a position of the list gives that value;
+    // any other, and no range, does nothing. What the cell then shows is what the value is recognised by from now on,
+    // also where the sheet refused it.
+    void ApplyAsIndents(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
+    // Cells are right-aligned; see RightIndent.h for how those of old versions are indented.
+    void ApplyAsRightIndents(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
+    void ApplyAsRowHeight(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
+    void ApplyAsColWidth(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
+    // Selects the range afterwards, so that Excel draws it anew.
+    void ApplyAsColors(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
+
     bool operator==(const cLongToggle&) const = default;
+
+  private:
+    // How a property is read from a cell and written to a range. Both may fail as Excel does.
+    struct Property {
+        std::function<double(const excel::Range& cell)> read;
+        std::function<void(const excel::Range& range, double value)> write;
+    };
+
+    void step(const automation::Trace& trace, const excel::Range& range, std::int32_t position,
+              const Property& property);
+    // The position of the value behind the one shown; nothing shown is no value of the cycle.
+    [[nodiscard]] std::size_t next_position(std::optional<double> shown) const;
 };
 
 using LongToggleRef = std::shared_ptr<cLongToggle>;

@@ -73,6 +73,13 @@ ObjectRef diBRXLLib::in_use(const ObjectRef& range) const {
     return automation::to_object(call(Range, "InUse", {range}));
 }
 
+std::vector<NumberFormatPart> diBRXLLib::number_formats(const ObjectRef& range) const {
+    const std::vector<std::string> texts = texts_of(call(Range, "NumberFormats", {range}));
+    std::vector<NumberFormatPart> parts;
+    for (std::size_t i = 0; i + 1 < texts.size(); i += 2) parts.push_back({texts[i], texts[i + 1]});
+    return parts;
+}
+
 std::vector<CellLink> diBRXLLib::precedents(const ObjectRef& cell) const {
     return links_of(call(Range, "Precedents", {cell}));
 }

@@ -25,6 +25,12 @@ struct CellLink {
     std::string formula;  // the cell's own for precedents, the other end's for dependents
 };
 
+// Cells of one number format.
+struct NumberFormatPart {
+    std::string address;  // on the sheet of the range that was asked about; several areas parted by commas
+    std::string format;
+};
+
 // What a new button is to be like.
 struct ButtonDesign {
     std::string caption;
@@ -70,6 +76,9 @@ class diBRXLLib : public LibraryBridge {
     [[nodiscard]] std::vector<std::int32_t> content_kinds(const automation::ObjectRef& range) const;
     // The part of a range that lies in its sheet's used range, or Nothing.
     [[nodiscard]] automation::ObjectRef in_use(const automation::ObjectRef& range) const;
+
+    // Parts of a range, each of one number format, that together are the whole; few for each distinct format.
+    [[nodiscard]] std::vector<NumberFormatPart> number_formats(const automation::ObjectRef& range) const;
 
     // The cells that a cell's formula refers to, in the order of its text.
     [[nodiscard]] std::vector<CellLink> precedents(const automation::ObjectRef& cell) const;
