@@ -6,23 +6,43 @@
 #include "cli/Failure.h"
 #include "cli/InstallationFolder.h"
 #include "cli/PrintingDesktop.h"
+#include "core/iGlobal.h"
 #include "core/register_add_in.h"
 #include "native/services.h"
 
 namespace kestrune::cli {
 
-AddIn::AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace,
-             brxllib::CustomFormats* formats) {
+AddIn::AddIn(const excel::Application& application, host::Macros& macros, forms::Presenter& presenter,
+             const automation::Trace& trace, brxllib::CustomFormats* formats) {
     brvblib::Services services = native::services(trace, presenter, installation_folder());
     services.desktop = std::make_shared<PrintingDesktop>();
     brvblib::register_library(std::move(services));
     brxllib::register_library(trace, {.presenter = &presenter, .formats = formats});
+    // One for the add-in and for those who ask what it has on record.
+    const automation::ObjectRef library = automation::CreateObject("BRXLLib.iPublic");
+    automation::register_class("BRXLLib.iPublic", [library] { return library; });
+    undo_redo_ = automation::to_object(automation::get(*library, "iUndoRedo"));
     core::register_add_in(presenter, trace, installation_folder());
     public_ = automation::CreateObject("KestruneXL.iPublic");
     // The workbook that stands for the companion add-in is the one being worked on: it has no other here.
     automation::call(*public_, "NewPublic", {application.object(), application.ActiveWorkbook().object()});
     global_ = automation::to_object(automation::call(*public_, "NewGlobal"));
     if (!global_) throw Failure("the add-in did not start");
+    add_macros(macros, application.ActiveWorkbook().Name());
+}
+
+void AddIn::add_macros(host::Macros& macros, const std::string& workbook) const {
+    for (const automation::Member& member : core::iGlobal::members().rows()) {
+        if (!member.is_method) continue;
+        // The macros stay behind when the add-in goes.
+        const std::weak_ptr<automation::Object> commands = global_;
+        macros.add(workbook, "mDOM." + std::string(member.name), [commands, name = member.name](auto given) {
+            automation::Arguments arguments;
+            arguments.positional.assign(given.begin(), given.end());
+            const automation::ObjectRef object = commands.lock();
+            return object ? automation::call(*object, name, std::move(arguments)) : automation::Value();
+        });
+    }
 }
 
 }  // namespace kestrune::cli

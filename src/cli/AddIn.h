@@ -1,27 +1,36 @@
 #pragma once
 
+#include <string>
+
 #include "automation/Conversion.h"
 #include "automation/Object.h"
 #include "automation/Trace.h"
 #include "brxllib/Surroundings.h"
 #include "excel/Application.h"
 #include "forms/Presenter.h"
+#include "host/objects/Macros.h"
 
 namespace kestrune::cli {
 
 // The add-in loaded into an Excel, the way its companion workbook does it: iPublic is created by its
 // class name and given the application and the workbook, and answers the command object.
+//
+// The companion workbook's macros are there, too: mDOM has one for each method of iGlobal.
 class AddIn {
   public:
     // Failure when the add-in does not start. What it is given outlives it.
-    AddIn(const excel::Application& application, forms::Presenter& presenter, const automation::Trace& trace,
-          brxllib::CustomFormats* formats);
+    AddIn(const excel::Application& application, host::Macros& macros, forms::Presenter& presenter,
+          const automation::Trace& trace, brxllib::CustomFormats* formats);
     AddIn(const AddIn&) = delete;
     AddIn& operator=(const AddIn&) = delete;
 
-    [[nodiscard]] automation::Object& commands() { return *global_; }  // iGlobal
+    [[nodiscard]] automation::Object& commands() { return *global_; }      // iGlobal
+    [[nodiscard]] automation::Object& undo_redo() { return *undo_redo_; }  // the spreadsheet library's iUndoRedo
 
   private:
+    void add_macros(host::Macros& macros, const std::string& workbook) const;
+
+    automation::ObjectRef undo_redo_;
     automation::ObjectRef public_;
     automation::ObjectRef global_;
 };

@@ -17,6 +17,11 @@ const brvblib::CommandText& text_of(const core::Command& command) {
     return brvblib::command_texts[static_cast<std::size_t>(command.number)];
 }
 
+// Every other command that changes a workbook can be undone, or changes none.
+std::string_view undo_note(const core::Command& command) {
+    return command.touches.changes_workbook() && !command.touches.undoable() ? " (cannot be undone)" : "";
+}
+
 }  // namespace
 
 void list_commands(const CommandsOptions& options) {
@@ -36,7 +41,8 @@ void list_commands(const CommandsOptions& options) {
                             {"key", text.key},
                             {"group", text.group},
                             {"parameter", command.takes_parameter},
-                            {"undo", command.undo},
+                            {"changes_workbook", command.touches.changes_workbook()},
+                            {"undo", command.touches.undoable()},
                             {"available", command.body != nullptr}});
         }
         fmt::print("{}\n", rows.dump(1));
@@ -47,8 +53,8 @@ void list_commands(const CommandsOptions& options) {
         const brvblib::CommandText& text = text_of(command);
         if (text.group != group) fmt::print("{}{}\n", group.empty() ? "" : "\n", text.group);
         group = text.group;
-        fmt::print("{:>5}{:<3} {:<34} {:<20} {}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
-                   text.key, text.description, command.body ? "" : " (not available yet)");
+        fmt::print("{:>5}{:<3} {:<34} {:<20} {}{}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
+                   text.key, text.description, undo_note(command), command.body ? "" : " (not available yet)");
     }
 }
 

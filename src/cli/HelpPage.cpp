@@ -40,6 +40,8 @@ hold the cycles: which entries they have, and in which order.</p>
 captured. <b>AutoColor</b> colors the fonts of cells by what they hold: inputs, formulas, links, text and dates.</p>
 <p>A request is a command's number; where a number is followed by <i>.n</i>, a full stop and a step go straight to that
 entry: 20.3 is the third entry of the Currency SmartCycle. Keys are those of a fresh installation.</p>
+<p>Whatever a command changes, <b>Undo</b> gives back exactly, a hundred steps far; Ctrl+Z presses it. A command that
+cannot be undone, or not this time, asks before it runs.</p>
 )";
 
 std::string escaped(std::string_view text) {
@@ -73,8 +75,10 @@ std::vector<std::string_view> groups() {
 std::string row(const core::Command& command) {
     const brvblib::CommandText& text = text_of(command);
     const std::string key = text.key.empty() ? "" : fmt::format("<kbd>{}</kbd>", escaped(text.key));
-    return fmt::format("<tr><td>{}{}</td><td>{}</td><td>{}</td><td>{}</td></tr>\n", command.number,
-                       command.takes_parameter ? ".n" : "", escaped(text.name), key, escaped(text.description));
+    const bool lasting = command.touches.changes_workbook() && !command.touches.undoable();
+    return fmt::format("<tr><td>{}{}</td><td>{}</td><td>{}</td><td>{}{}</td></tr>\n", command.number,
+                       command.takes_parameter ? ".n" : "", escaped(text.name), key, escaped(text.description),
+                       lasting ? " Cannot be undone." : "");
 }
 
 }  // namespace

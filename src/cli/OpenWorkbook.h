@@ -22,6 +22,8 @@ class OpenWorkbook {
     void activate() { session_.activate(model()); }
     [[nodiscard]] host::Workbook& model() { return file_->workbook(); }
     [[nodiscard]] const host::HostSession& session() const { return session_; }
+    // What Excel may run by name.
+    [[nodiscard]] host::Macros& macros() { return session_.macros; }
     // What the libraries ask about number formats of open workbooks.
     [[nodiscard]] HostFormats& formats() { return formats_; }
     [[nodiscard]] host::PackageKind kind() const { return file_->package().kind(); }

@@ -15,118 +15,138 @@ using settings::StyleCycle;
 
 template <StyleCycle field>
 constexpr CommandBody cycle = &styles::style_cycle_command<field>;
+template <StyleCycle field>
+constexpr CommandNaming named = &styles::style_cycle_name<field>;
 
 constexpr CommandBody later = nullptr;
 constexpr bool plain = false;
 constexpr bool parameter = true;
-constexpr bool lasting = false;
-constexpr bool undoable = true;
+
+// What undo has on record before the body runs. Contents come with formats: Excel formats what is entered by what it
+// looks like, and AutoColor colors it.
+constexpr Aspects entries = Aspects::Contents | Aspects::Formats;
+constexpr Touches nothing{};                                 // windows, settings and what is shown: no cell changes
+constexpr Touches recorded{Reach::Recorded, Aspects::None};  // the body records what it writes
+constexpr Touches lasting{Reach::Lasting, Aspects::None};
+constexpr Touches formats{Reach::Selection, Aspects::Formats};
+constexpr Touches restyled{Reach::Selection, Aspects::Formats | Aspects::Conditions};
+constexpr Touches unmerged{Reach::Selection, entries | Aspects::Conditions | Aspects::Merges};
+constexpr Touches contents{Reach::Selection, entries};
+constexpr Touches separators{Reach::Selection, entries | Aspects::Rows};
+constexpr Touches row_sizes{Reach::Selection, Aspects::Rows};
+constexpr Touches column_sizes{Reach::Selection, Aspects::Columns};
+constexpr Touches all_rows{Reach::Sheet, Aspects::Rows};
+constexpr Touches all_columns{Reach::Sheet, Aspects::Columns};
+constexpr Touches outline{Reach::Sheet, Aspects::Rows | Aspects::Columns};
+constexpr Touches sheet_formats{Reach::Sheet, Aspects::Formats};
+constexpr Touches book_formats{Reach::Workbook, Aspects::Formats};
+constexpr Touches names{Reach::Sheet, Aspects::Names};
 
 // clang-format off
 constexpr std::array<Command, 103> table{{
-    {0, later, plain, undoable},  // Smart Copy Right
-    {1, later, plain, undoable},  // Smart Copy Down
-    {2, later, plain, undoable},  // Smart Anchor
-    {3, later, plain, undoable},  // Smart Formula Column Spacing
-    {4, later, plain, undoable},  // Smart Formula Row Spacing
-    {5, later, plain, undoable},  // Smart Fill Dates
-    {6, later, plain, undoable},  // Smart Fill Numbers
-    {7, later, plain, lasting},  // Smart Precedents
-    {8, later, plain, lasting},  // Smart Dependents
-    {9, later, plain, lasting},  // Set Bookmark
-    {10, later, plain, lasting},  // Next Bookmark
-    {11, later, plain, lasting},  // Previous Bookmark
-    {12, later, plain, lasting},  // Remove Bookmarks
-    {13, later, plain, lasting},  // Next Worksheet
-    {14, later, plain, lasting},  // Previous Worksheet
-    {15, &settings::auto_color_selection, plain, lasting},  // AutoColor Selection
+    {0, later, plain, recorded},  // Smart Copy Right
+    {1, later, plain, recorded},  // Smart Copy Down
+    {2, later, plain, contents},  // Smart Anchor
+    {3, later, plain, contents},  // Smart Formula Column Spacing
+    {4, later, plain, contents},  // Smart Formula Row Spacing
+    {5, later, plain, recorded},  // Smart Fill Dates
+    {6, later, plain, recorded},  // Smart Fill Numbers
+    {7, later, plain, nothing},  // Smart Precedents
+    {8, later, plain, nothing},  // Smart Dependents
+    {9, later, plain, names},  // Set Bookmark
+    {10, later, plain, nothing},  // Next Bookmark
+    {11, later, plain, nothing},  // Previous Bookmark
+    {12, later, plain, names},  // Remove Bookmarks
+    {13, later, plain, nothing},  // Next Worksheet
+    {14, later, plain, nothing},  // Previous Worksheet
+    {15, &settings::auto_color_selection, plain, formats},  // AutoColor Selection
     {16, later, plain, lasting},  // Apply Sheet Style
-    {17, later, plain, lasting},  // Capture BR Paintbrush
-    {18, later, plain, undoable},  // Apply BR Paintbrush
-    {19, cycle<StyleCycle::GeneralStyleToggle>, parameter, undoable},  // General Number SmartCycle
-    {20, cycle<StyleCycle::CurrencyStyleToggle>, parameter, undoable},  // Currency SmartCycle
-    {21, cycle<StyleCycle::PercentStyleToggle>, parameter, undoable},  // Percent SmartCycle
-    {22, cycle<StyleCycle::MultipleSTyleToggle>, parameter, undoable},  // Multiple SmartCycle
-    {23, cycle<StyleCycle::DateStyleToggle>, parameter, undoable},  // Date SmartCycle
-    {24, cycle<StyleCycle::BinaryStyleToggle>, parameter, undoable},  // Binary Number SmartCycle
-    {25, cycle<StyleCycle::UnderlineStyleToggle>, parameter, undoable},  // Underline SmartCycle
-    {26, cycle<StyleCycle::CenterStyleToggle>, parameter, undoable},  // Center SmartCycle
-    {27, cycle<StyleCycle::HAlignStyleToggle>, parameter, undoable},  // Horizontal Alignment SmartCycle
-    {28, cycle<StyleCycle::VAlignStyleToggle>, parameter, undoable},  // Vertical Alignment SmartCycle
-    {29, cycle<StyleCycle::BorderStyleToggle>, parameter, undoable},  // Border SmartCycle
-    {30, cycle<StyleCycle::CellColorStyleToggle>, parameter, undoable},  // Cell Back Color SmartCycle
-    {31, cycle<StyleCycle::MyStyleToggle1>, parameter, undoable},  // My SmartCycle 1
-    {32, cycle<StyleCycle::MyStyleToggle2>, parameter, undoable},  // My SmartCycle 2
-    {33, cycle<StyleCycle::MyStyleToggle3>, parameter, undoable},  // My SmartCycle 3
-    {34, cycle<StyleCycle::MyStyleToggle4>, parameter, undoable},  // My SmartCycle 4
-    {35, cycle<StyleCycle::MyStyleToggle5>, parameter, undoable},  // My SmartCycle 5
-    {36, cycle<StyleCycle::MyStyleToggle6>, parameter, undoable},  // My SmartCycle 6
-    {37, cycle<StyleCycle::MyStyleToggle7>, parameter, undoable},  // My SmartCycle 7
-    {38, cycle<StyleCycle::MyStyleToggle8>, parameter, undoable},  // My SmartCycle 8
-    {39, cycle<StyleCycle::MyStyleToggle9>, parameter, undoable},  // My SmartCycle 9
-    {40, cycle<StyleCycle::MyStyleToggle10>, parameter, undoable},  // My SmartCycle 10
-    {41, cycle<StyleCycle::MyStyleToggle11>, parameter, undoable},  // My SmartCycle 11
-    {42, cycle<StyleCycle::MyStyleToggle12>, parameter, undoable},  // My SmartCycle 12
-    {43, cycle<StyleCycle::MyStyleToggle13>, parameter, undoable},  // My SmartCycle 13
-    {44, cycle<StyleCycle::MyStyleToggle14>, parameter, undoable},  // My SmartCycle 14
-    {45, cycle<StyleCycle::MyStyleToggle15>, parameter, undoable},  // My SmartCycle 15
-    {46, later, parameter, undoable},  // My Color SmartCycle 1
-    {47, later, parameter, undoable},  // My Color SmartCycle 2
-    {48, later, parameter, undoable},  // My Color SmartCycle 3
-    {49, later, parameter, undoable},  // My Color SmartCycle 4
-    {50, later, parameter, undoable},  // My Color SmartCycle 5
-    {51, later, plain, undoable},  // Add Decimal Place
-    {52, later, plain, undoable},  // Remove Decimal Place
-    {53, later, plain, undoable},  // Increase Font Size
-    {54, later, plain, undoable},  // Decrease Font Size
-    {55, later, plain, undoable},  // Error Trap
-    {56, later, plain, undoable},  // Toggle Strikethrough
-    {57, later, plain, undoable},  // Separator Line
-    {58, later, parameter, undoable},  // Left Indent SmartCycle
-    {59, later, parameter, undoable},  // Row Height SmartCycle
-    {60, later, parameter, undoable},  // Column Width SmartCycle
-    {61, later, plain, lasting},  // AutoFit Row Heights
-    {62, later, plain, lasting},  // Standard Column Width
-    {63, later, plain, lasting},  // Insert Rows
-    {64, later, plain, lasting},  // Insert Columns
-    {65, later, plain, lasting},  // Delete Rows
-    {66, later, plain, lasting},  // Delete Columns
-    {67, later, plain, lasting},  // Group Rows
-    {68, later, plain, lasting},  // Group Columns
-    {69, later, plain, lasting},  // Ungroup Rows
-    {70, later, plain, lasting},  // Ungroup Columns
-    {71, later, plain, lasting},  // Expand All Row Levels
-    {72, later, plain, lasting},  // Expand All Column Levels
-    {73, later, plain, lasting},  // Collapse Row Levels
-    {74, later, plain, lasting},  // Collapse Column Levels
-    {75, later, plain, lasting},  // Hide Rows
-    {76, later, plain, lasting},  // Hide Columns
-    {77, later, plain, lasting},  // Unhide Rows
-    {78, later, plain, lasting},  // Unhide Columns
-    {79, later, plain, lasting},  // Toggle Outline Levels
-    {80, later, plain, undoable},  // Top Border
-    {81, later, plain, undoable},  // Bottom Border
-    {82, later, plain, undoable},  // Left Border
-    {83, later, plain, undoable},  // Right Border
-    {84, later, plain, undoable},  // Outline Border
-    {85, later, plain, undoable},  // Grid Borders
-    {86, later, plain, undoable},  // Remove Borders
-    {87, zoom_in, plain, lasting},  // Zoom In
-    {88, zoom_out, plain, lasting},  // Zoom Out
-    {89, toggle_window_size, plain, lasting},  // Toggle Window Size
-    {90, maximise_window, plain, lasting},  // Maximize Window
-    {91, later, plain, lasting},  // First Worksheet
-    {92, later, plain, lasting},  // Last Worksheet
-    {93, &settings::auto_color_workbook, plain, lasting},  // AutoColor Workbook
-    {94, later, plain, undoable},  // Clear Formats
-    {95, later, plain, undoable},  // Toggle Shrink to Fit
-    {96, later, plain, undoable},  // Toggle Wrap Text
-    {97, later, parameter, undoable},  // Right Indent SmartCycle
-    {98, toggle_gridlines, plain, lasting},  // Toggle Gridlines
-    {99, place_window, parameter, lasting},  // Place Window
-    {100, later, plain, lasting},  // Remove Unused Number Formats
-    {101, later, plain, lasting},  // Remove Invalid Range Names
-    {102, &settings::auto_color_worksheet, plain, lasting},  // AutoColor Worksheet
+    {17, later, plain, nothing},  // Capture BR Paintbrush
+    {18, later, plain, formats},  // Apply BR Paintbrush
+    {19, cycle<StyleCycle::GeneralStyleToggle>, parameter, restyled, named<StyleCycle::GeneralStyleToggle>},  // General Number SmartCycle
+    {20, cycle<StyleCycle::CurrencyStyleToggle>, parameter, restyled, named<StyleCycle::CurrencyStyleToggle>},  // Currency SmartCycle
+    {21, cycle<StyleCycle::PercentStyleToggle>, parameter, restyled, named<StyleCycle::PercentStyleToggle>},  // Percent SmartCycle
+    {22, cycle<StyleCycle::MultipleSTyleToggle>, parameter, restyled, named<StyleCycle::MultipleSTyleToggle>},  // Multiple SmartCycle
+    {23, cycle<StyleCycle::DateStyleToggle>, parameter, restyled, named<StyleCycle::DateStyleToggle>},  // Date SmartCycle
+    {24, cycle<StyleCycle::BinaryStyleToggle>, parameter, restyled, named<StyleCycle::BinaryStyleToggle>},  // Binary Number SmartCycle
+    {25, cycle<StyleCycle::UnderlineStyleToggle>, parameter, restyled, named<StyleCycle::UnderlineStyleToggle>},  // Underline SmartCycle
+    {26, cycle<StyleCycle::CenterStyleToggle>, parameter, unmerged, named<StyleCycle::CenterStyleToggle>},  // Center SmartCycle
+    {27, cycle<StyleCycle::HAlignStyleToggle>, parameter, restyled, named<StyleCycle::HAlignStyleToggle>},  // Horizontal Alignment SmartCycle
+    {28, cycle<StyleCycle::VAlignStyleToggle>, parameter, restyled, named<StyleCycle::VAlignStyleToggle>},  // Vertical Alignment SmartCycle
+    {29, cycle<StyleCycle::BorderStyleToggle>, parameter, restyled, named<StyleCycle::BorderStyleToggle>},  // Border SmartCycle
+    {30, cycle<StyleCycle::CellColorStyleToggle>, parameter, restyled, named<StyleCycle::CellColorStyleToggle>},  // Cell Back Color SmartCycle
+    {31, cycle<StyleCycle::MyStyleToggle1>, parameter, restyled, named<StyleCycle::MyStyleToggle1>},  // My SmartCycle 1
+    {32, cycle<StyleCycle::MyStyleToggle2>, parameter, restyled, named<StyleCycle::MyStyleToggle2>},  // My SmartCycle 2
+    {33, cycle<StyleCycle::MyStyleToggle3>, parameter, restyled, named<StyleCycle::MyStyleToggle3>},  // My SmartCycle 3
+    {34, cycle<StyleCycle::MyStyleToggle4>, parameter, restyled, named<StyleCycle::MyStyleToggle4>},  // My SmartCycle 4
+    {35, cycle<StyleCycle::MyStyleToggle5>, parameter, restyled, named<StyleCycle::MyStyleToggle5>},  // My SmartCycle 5
+    {36, cycle<StyleCycle::MyStyleToggle6>, parameter, restyled, named<StyleCycle::MyStyleToggle6>},  // My SmartCycle 6
+    {37, cycle<StyleCycle::MyStyleToggle7>, parameter, restyled, named<StyleCycle::MyStyleToggle7>},  // My SmartCycle 7
+    {38, cycle<StyleCycle::MyStyleToggle8>, parameter, restyled, named<StyleCycle::MyStyleToggle8>},  // My SmartCycle 8
+    {39, cycle<StyleCycle::MyStyleToggle9>, parameter, restyled, named<StyleCycle::MyStyleToggle9>},  // My SmartCycle 9
+    {40, cycle<StyleCycle::MyStyleToggle10>, parameter, restyled, named<StyleCycle::MyStyleToggle10>},  // My SmartCycle 10
+    {41, cycle<StyleCycle::MyStyleToggle11>, parameter, restyled, named<StyleCycle::MyStyleToggle11>},  // My SmartCycle 11
+    {42, cycle<StyleCycle::MyStyleToggle12>, parameter, restyled, named<StyleCycle::MyStyleToggle12>},  // My SmartCycle 12
+    {43, cycle<StyleCycle::MyStyleToggle13>, parameter, restyled, named<StyleCycle::MyStyleToggle13>},  // My SmartCycle 13
+    {44, cycle<StyleCycle::MyStyleToggle14>, parameter, restyled, named<StyleCycle::MyStyleToggle14>},  // My SmartCycle 14
+    {45, cycle<StyleCycle::MyStyleToggle15>, parameter, restyled, named<StyleCycle::MyStyleToggle15>},  // My SmartCycle 15
+    {46, later, parameter, formats},  // My Color SmartCycle 1
+    {47, later, parameter, formats},  // My Color SmartCycle 2
+    {48, later, parameter, formats},  // My Color SmartCycle 3
+    {49, later, parameter, formats},  // My Color SmartCycle 4
+    {50, later, parameter, formats},  // My Color SmartCycle 5
+    {51, later, plain, formats},  // Add Decimal Place
+    {52, later, plain, formats},  // Remove Decimal Place
+    {53, later, plain, formats},  // Increase Font Size
+    {54, later, plain, formats},  // Decrease Font Size
+    {55, later, plain, contents},  // Error Trap
+    {56, later, plain, formats},  // Toggle Strikethrough
+    {57, later, plain, separators},  // Separator Line
+    {58, later, parameter, formats},  // Left Indent SmartCycle
+    {59, later, parameter, row_sizes},  // Row Height SmartCycle
+    {60, later, parameter, column_sizes},  // Column Width SmartCycle
+    {61, later, plain, row_sizes},  // AutoFit Row Heights
+    {62, later, plain, column_sizes},  // Standard Column Width
+    {63, later, plain, recorded},  // Insert Rows
+    {64, later, plain, recorded},  // Insert Columns
+    {65, later, plain, recorded},  // Delete Rows
+    {66, later, plain, recorded},  // Delete Columns
+    {67, later, plain, row_sizes},  // Group Rows
+    {68, later, plain, column_sizes},  // Group Columns
+    {69, later, plain, row_sizes},  // Ungroup Rows
+    {70, later, plain, column_sizes},  // Ungroup Columns
+    {71, later, plain, all_rows},  // Expand All Row Levels
+    {72, later, plain, all_columns},  // Expand All Column Levels
+    {73, later, plain, all_rows},  // Collapse Row Levels
+    {74, later, plain, all_columns},  // Collapse Column Levels
+    {75, later, plain, row_sizes},  // Hide Rows
+    {76, later, plain, column_sizes},  // Hide Columns
+    {77, later, plain, row_sizes},  // Unhide Rows
+    {78, later, plain, column_sizes},  // Unhide Columns
+    {79, later, plain, outline},  // Toggle Outline Levels
+    {80, later, plain, formats},  // Top Border
+    {81, later, plain, formats},  // Bottom Border
+    {82, later, plain, formats},  // Left Border
+    {83, later, plain, formats},  // Right Border
+    {84, later, plain, formats},  // Outline Border
+    {85, later, plain, formats},  // Grid Borders
+    {86, later, plain, formats},  // Remove Borders
+    {87, zoom_in, plain, nothing},  // Zoom In
+    {88, zoom_out, plain, nothing},  // Zoom Out
+    {89, toggle_window_size, plain, nothing},  // Toggle Window Size
+    {90, maximise_window, plain, nothing},  // Maximize Window
+    {91, later, plain, nothing},  // First Worksheet
+    {92, later, plain, nothing},  // Last Worksheet
+    {93, &settings::auto_color_workbook, plain, book_formats},  // AutoColor Workbook
+    {94, later, plain, restyled},  // Clear Formats
+    {95, later, plain, formats},  // Toggle Shrink to Fit
+    {96, later, plain, formats},  // Toggle Wrap Text
+    {97, later, parameter, formats},  // Right Indent SmartCycle
+    {98, toggle_gridlines, plain, nothing},  // Toggle Gridlines
+    {99, place_window, parameter, nothing},  // Place Window
+    {100, later, plain, recorded},  // Remove Unused Number Formats
+    {101, later, plain, names},  // Remove Invalid Range Names
+    {102, &settings::auto_color_worksheet, plain, sheet_formats},  // AutoColor Worksheet
 }};
 // clang-format on
 

@@ -2,19 +2,24 @@
 
 #include <array>
 #include <cstdint>
+#include <string>
 
 #include "automation/Trace.h"
 #include "automation/Value.h"
 #include "core/bridges/Command.h"
+#include "core/bridges/Touches.h"
 
 namespace kestrune::core {
+
+using CommandNaming = std::string (*)(const SharedState& state);
 
 // One numbered command. Its name, description and group stand in the general library's string table.
 struct Command {
     std::int32_t number = 0;
-    CommandBody body = nullptr;    // null: this version does not have the command yet
-    bool takes_parameter = false;  // the number after the full stop reaches the body
-    bool undo = false;             // the command is one that undo can take back
+    CommandBody body = nullptr;      // null: this version does not have the command yet
+    bool takes_parameter = false;    // the number after the full stop reaches the body
+    Touches touches{};               // what it changes, of which undo has to know before
+    CommandNaming naming = nullptr;  // its name as the user settings have it; null for the string table's
 };
 
 // All commands, by number: 0 to 102.

@@ -10,4 +10,7 @@ namespace kestrune::core {
 // and the end of the command bracket. Nothing that fails leaves it.
 bool dispatch(SharedState& shared, const automation::Value& request);
 
+// Whether a command may run now: the add-in is loaded, a workbook is active, and Excel takes calls.
+bool may_run_command(const SharedState& shared);
+
 }  // namespace kestrune::core

@@ -1,10 +1,13 @@
 #include "core/iGlobal.h"
 
 #include "automation/ResumeNext.h"
+#include "core/CommandTable.h"
 #include "core/Dispatcher.h"
 #include "core/ExamplesWorkbook.h"
 #include "core/Folders.h"
+#include "core/Undo.h"
 #include "core/iGlobalInterface.h"
+#include "excel/Range.h"
 #include "settings/AutoColorCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
@@ -12,6 +15,8 @@ namespace kestrune::core {
 namespace {
 
 using automation::MemberTable;
+
+constexpr std::size_t auto_color_command = 15;  // of the selection
 
 // A member that the interface does not name does not compile.
 consteval std::int32_t id(std::string_view member) {
@@ -30,7 +35,32 @@ bool iGlobal::run_macro(const automation::Value& request) const {
 void iGlobal::apply_smart_cycle_style(std::int32_t cycle, std::int32_t position,
                                       const automation::ObjectRef& range) const {
     const auto shared = shared_;
-    styles::ApplySmartCycleStyle(*shared, cycle, position, range);
+    if (!settings::is_my_style_cycle(cycle) || !excel::Range::is(range)) return;
+    const automation::ResumeNext attempt(shared->trace);
+    std::string name;
+    const auto field = settings::my_style_cycle(static_cast<std::size_t>(cycle));
+    attempt.assign(name, [&] { return styles::name_of_cycle(*shared, field); });
+    {
+        const UndoStep step(*shared, name, {Reach::Recorded, Aspects::None});
+        if (!step.wanted() || !step.record(range, Aspects::Formats)) return;
+        styles::ApplySmartCycleStyle(*shared, cycle, position, range);
+    }
+    arm_undo(*shared);
+}
+
+void iGlobal::br_undo() const {
+    const auto shared = shared_;
+    undo(*shared);
+}
+
+void iGlobal::br_redo() const {
+    const auto shared = shared_;
+    redo(*shared);
+}
+
+void iGlobal::set_br_undo() const {
+    const auto shared = shared_;
+    set_undo_point(*shared);
 }
 
 void iGlobal::toggle_auto_color() const {
@@ -40,7 +70,8 @@ void iGlobal::toggle_auto_color() const {
 
 void iGlobal::run_auto_color() const {
     const auto shared = shared_;
-    settings::auto_color_selection(*shared, 0);
+    run_as_step(*shared, commands()[auto_color_command], 0);
+    arm_undo(*shared);
 }
 
 void iGlobal::show_examples_workbook() const {
@@ -58,6 +89,9 @@ std::string iGlobal::lesson_path() const { return lessons_folder(*shared_); }
 
 const MemberTable& iGlobal::members() {
     static constexpr auto rows = automation::member_rows(
+        automation::method<&iGlobal::br_undo>("BRUndo", id("BRUndo")),
+        automation::method<&iGlobal::br_redo>("BRRedo", id("BRRedo")),
+        automation::method<&iGlobal::set_br_undo>("SetBRUndo", id("SetBRUndo")),
         automation::method<&iGlobal::toggle_auto_color>("ToggleAutoColor", id("ToggleAutoColor")),
         automation::method<&iGlobal::run_auto_color>("RunAutoColor", id("RunAutoColor")),
         automation::method<&iGlobal::show_examples_workbook>("ShowExamplesWorkbook", id("ShowExamplesWorkbook")),

@@ -28,6 +28,12 @@ class iGlobal : public automation::Served<iGlobal> {
     // Applies one step (from 1) of a user style SmartCycle (1 to 15) to a range.
     void apply_smart_cycle_style(std::int32_t cycle, std::int32_t position, const automation::ObjectRef& range) const;
 
+    // Takes the last step back, or does it again. What stands in the way is told to the user.
+    void br_undo() const;
+    void br_redo() const;
+    // Records the selection: what happens to it until the next step, undo or redo can be undone as one.
+    void set_br_undo() const;
+
     void toggle_auto_color() const;
     void run_auto_color() const;  // on the selection, whatever the moment
 

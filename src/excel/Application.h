@@ -29,6 +29,8 @@ class Application : public Facade<Application> {
          "Arg20 Arg21 Arg22 Arg23 Arg24 Arg25 Arg26 Arg27 Arg28 Arg29 Arg30"},
         {"Left", Access::get_put},
         {"Name", Access::get},
+        {"OnRepeat", Access::method, "Text! Procedure!"},
+        {"OnUndo", Access::method, "Text! Procedure!"},
         {"Ready", Access::get},
         {"Run", Access::method,
          "Macro Arg1 Arg2 Arg3 Arg4 Arg5 Arg6 Arg7 Arg8 Arg9 Arg10 Arg11 Arg12 Arg13 Arg14 Arg15 Arg16 Arg17 Arg18 "
@@ -60,6 +62,9 @@ class Application : public Facade<Application> {
         return call<Range>("Intersect", one.object(), other.object());
     }
     [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
+    // The macro that Excel's Undo (Repeat) runs next, and what the menu calls it. Any later change takes it away.
+    void OnUndo(std::string_view text, std::string_view procedure) const { call("OnUndo", text, procedure); }
+    void OnRepeat(std::string_view text, std::string_view procedure) const { call("OnRepeat", text, procedure); }
     // Runs a macro of an open workbook ("mPublic.Init").
     template <class... A>
     Value Run(std::string_view macro, A&&... arguments) const {

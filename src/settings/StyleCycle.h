@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 namespace kestrune::settings {
 
@@ -37,6 +38,10 @@ enum class StyleCycle : std::size_t {
 
 inline constexpr std::size_t style_cycle_count = 27;
 inline constexpr std::size_t my_style_cycle_count = 15;
+
+constexpr bool is_my_style_cycle(std::int32_t number) {
+    return number >= 1 && number <= static_cast<std::int32_t>(my_style_cycle_count);
+}
 
 // MyStyleToggle1 to MyStyleToggle15 by number.
 constexpr StyleCycle my_style_cycle(std::size_t number) {

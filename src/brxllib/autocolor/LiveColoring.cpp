@@ -33,6 +33,8 @@ void LiveColoring::update() {
 }
 
 void LiveColoring::hear(std::string_view event, const automation::Arguments& arguments) const {
+    // What undo and redo give back has its colours with it.
+    if (library_.undo.is_moving()) return;
     const automation::ResumeNext attempt(library_.trace);
     attempt([&] {
         if (arguments.positional.size() < 2) {

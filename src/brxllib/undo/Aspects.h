@@ -24,6 +24,13 @@ class Aspects {
     constexpr Aspects(std::initializer_list<Aspect> aspects) {
         for (const Aspect aspect : aspects) bits_ = static_cast<std::uint8_t>(bits_ | bit(aspect));
     }
+    // As automation passes a set: 1 Contents, 2 Formats, 4 Conditions, 8 Merges, 16 Rows, 32 Columns, 64 Names, added
+    // up.
+    static constexpr Aspects of_bits(std::int32_t bits) {
+        Aspects aspects;
+        aspects.bits_ = static_cast<std::uint8_t>(bits) & all().bits_;
+        return aspects;
+    }
     static constexpr Aspects all() {
         return {Aspect::Contents, Aspect::Formats, Aspect::Conditions, Aspect::Merges,
                 Aspect::Rows,     Aspect::Columns, Aspect::Names};

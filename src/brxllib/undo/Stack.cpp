@@ -55,28 +55,53 @@ std::optional<Obstacle> move_all(Iterator first, Iterator last, Direction direct
     return obstacle;
 }
 
+// Says while it lives that undo or redo is at work.
+class Moving {
+  public:
+    explicit Moving(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Moving() { flag_ = false; }
+    Moving(const Moving&) = delete;
+    Moving& operator=(const Moving&) = delete;
+
+  private:
+    bool& flag_;
+};
+
 }  // namespace
 
-void Stack::begin(std::string description) {
+void Stack::begin(std::string name) {
     end_point();
-    if (depth_++ == 0) open_ = std::make_unique<Step>(Step{std::move(description)});
+    if (!open_) open_ = std::make_unique<Step>(Step{std::move(name)});
+    ++depth_;
 }
 
-void Stack::begin_point(std::string description) {
+void Stack::begin_point(std::string name) {
     end_point();
-    if (!open_) open_ = std::make_unique<Step>(Step{std::move(description)});
+    if (!open_) open_ = std::make_unique<Step>(Step{std::move(name)});
 }
 
 void Stack::add(std::unique_ptr<Change> change) {
     if (!open_) {
         throw AutomationError(automation::hresult::excel_error, "iUndoRedo.Record", "no step is open");
     }
-    open_->changes.push_back(std::move(change));
+    if (!given_up_) open_->changes.push_back(std::move(change));
+}
+
+void Stack::give_up() {
+    if (!open_) return;
+    open_->changes.clear();
+    given_up_ = true;
 }
 
 void Stack::end() {
     if (depth_ == 0) return end_point();
     if (--depth_ == 0) close();
+}
+
+void Stack::cancel() {
+    if (depth_ > 0 && --depth_ > 0) return;
+    open_.reset();
+    given_up_ = false;
 }
 
 void Stack::end_point() {
@@ -85,6 +110,7 @@ void Stack::end_point() {
 
 void Stack::close() {
     const std::unique_ptr<Step> step = std::move(open_);
+    given_up_ = false;
     std::erase_if(step->changes, [](const auto& change) {
         try {
             return !change->finish();
@@ -106,23 +132,30 @@ Outcome Stack::move(Direction direction) {
     Steps& to = direction == Direction::Undo ? undone_ : done_;
     if (from.empty()) return {};
 
+    if (moving_) return {Kind::Refused, {}, "undo is at work"};
+    const Moving moving(moving_);
     auto& changes = from.back().changes;
     const auto obstacle = direction == Direction::Undo ? move_all(changes.rbegin(), changes.rend(), direction)
                                                        : move_all(changes.begin(), changes.end(), direction);
     if (obstacle) {
-        Outcome outcome{obstacle->lasting ? Kind::Withdrawn : Kind::Refused, from.back().description, obstacle->why};
+        Outcome outcome{obstacle->lasting ? Kind::Withdrawn : Kind::Refused, from.back().description(), obstacle->why};
         if (obstacle->lasting) from.pop_back();
         return outcome;
     }
     to.push_back(std::move(from.back()));
     from.pop_back();
-    return {Kind::Done, to.back().description, {}};
+    return {Kind::Done, to.back().description(), {}};
 }
 
-std::vector<std::string_view> Stack::descriptions(const Steps& steps) {
-    std::vector<std::string_view> list;
-    std::ranges::transform(steps.rbegin(), steps.rend(), std::back_inserter(list),
-                           [](const Step& step) -> std::string_view { return step.description; });
+std::vector<std::string> Stack::descriptions(const Steps& steps) {
+    std::vector<std::string> list;
+    std::ranges::transform(steps.rbegin(), steps.rend(), std::back_inserter(list), &Step::description);
+    return list;
+}
+
+std::vector<std::string> Stack::undoable() const {
+    std::vector<std::string> list = descriptions(done_);
+    if (open_ && depth_ == 0) list.insert(list.begin(), open_->description());
     return list;
 }
 
@@ -134,6 +167,7 @@ void Stack::set_limits(const Limits& limits) {
 }
 
 void Stack::clear() {
+    if (moving_) return;
     done_.clear();
     undone_.clear();
     if (depth_ == 0) open_.reset();

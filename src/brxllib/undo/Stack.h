@@ -5,7 +5,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "brxllib/undo/Step.h"
@@ -34,15 +33,21 @@ struct Outcome {
 // The steps that can be undone, and those undone that can be done again.
 class Stack {
   public:
-    // Opens a step. Inside an open one it joins that: the outermost description stands. An undo point ends here.
-    void begin(std::string description);
+    // Opens a step. Inside an open one it joins that: the outermost name stands. An undo point ends here.
+    void begin(std::string name);
     // Opens a step that ends with the next step, undo or redo.
-    void begin_point(std::string description);
-    [[nodiscard]] bool is_open() const { return open_ != nullptr; }
+    void begin_point(std::string name);
+    // The step that is open; null when none is.
+    [[nodiscard]] Step* open() const { return open_.get(); }
     // Puts a change on record, before it happens. Fails with AutomationError while no step is open.
     void add(std::unique_ptr<Change> change);
+    // The open step cannot be taken back: it forgets its changes, and those still to come.
+    void give_up();
+    [[nodiscard]] bool given_up() const { return given_up_; }
     // Ends the step. One without a change leaves no trace; any other goes on top, and nothing can be redone any more.
     void end();
+    // Ends the step of a command that has not happened.
+    void cancel();
 
     // Whether a command is between its begin and its end.
     [[nodiscard]] bool is_running() const { return depth_ > 0; }
@@ -51,9 +56,12 @@ class Stack {
     Outcome undo() { return move(Direction::Undo); }
     Outcome redo() { return move(Direction::Redo); }
 
-    // What undo and redo would do now, the next one first.
-    [[nodiscard]] std::vector<std::string_view> undoable() const { return descriptions(done_); }
-    [[nodiscard]] std::vector<std::string_view> redoable() const { return descriptions(undone_); }
+    // Whether undo or redo writes to workbooks at this moment.
+    [[nodiscard]] bool is_moving() const { return moving_; }
+
+    // What undo and redo would do now, the next one first. An undo point counts as if something had changed since.
+    [[nodiscard]] std::vector<std::string> undoable() const;
+    [[nodiscard]] std::vector<std::string> redoable() const { return descriptions(undone_); }
 
     [[nodiscard]] std::size_t bytes() const;
     [[nodiscard]] const Limits& limits() const { return limits_; }
@@ -65,7 +73,7 @@ class Stack {
   private:
     using Steps = std::deque<Step>;  // the next one at the back
 
-    static std::vector<std::string_view> descriptions(const Steps& steps);
+    static std::vector<std::string> descriptions(const Steps& steps);
     Outcome move(Direction direction);
     void end_point();
     void close();
@@ -76,6 +84,8 @@ class Stack {
     Steps undone_;
     std::unique_ptr<Step> open_;
     int depth_ = 0;  // of begin; 0 for an undo point
+    bool given_up_ = false;
+    bool moving_ = false;
 };
 
 }  // namespace kestrune::brxllib::undo

@@ -13,6 +13,7 @@
 #include "cli/AddIn.h"
 #include "cli/Failure.h"
 #include "cli/OpenWorkbook.h"
+#include "cli/run/HistorySteps.h"
 #include "cli/run/Select.h"
 #include "cli/run/Step.h"
 #include "forms/ConsolePresenter.h"
@@ -84,7 +85,7 @@ class Session {
         OpenWorkbook book(options_.workbook);
         if (options_.output) check_output_name(book, options_.workbook, *options_.output);
         if (!steps_.empty()) {
-            AddIn add_in(book.application(), *presenter_, trace_, &book.formats());
+            AddIn add_in(book.application(), book.macros(), *presenter_, trace_, &book.formats());
             ordered_json report = ordered_json::array();
             const std::int32_t looked_at = book.model().active_sheet;
             for (std::size_t i = 0; i < steps_.size(); ++i) {
@@ -114,6 +115,7 @@ class Session {
         const std::int64_t before = book.session().calls();
         bool ran = true;
         std::string what;
+        HistoryReport history;
         if (const auto* select = std::get_if<SelectStep>(&step)) {
             select_cells(book, select->target);
         } else if (const auto* request = std::get_if<RequestStep>(&step)) {
@@ -124,6 +126,10 @@ class Session {
         } else if (const auto* member = std::get_if<MemberStep>(&step)) {
             automation::call(add_in.commands(), member->member);
             what = member->member;
+        } else if (const auto* undo_or_redo = std::get_if<HistoryStep>(&step)) {
+            history = run_history_step(add_in, *undo_or_redo);
+            what = history.what;
+            ran = history.ran;
         }
         const std::int64_t calls = book.session().calls() - before;
         if (std::holds_alternative<SelectStep>(step)) {
@@ -132,8 +138,13 @@ class Session {
             moved_ = true;
         }
         tell_refusals(text);
-        if (options_.json) return describe(text, ran, calls);
+        if (options_.json) {
+            ordered_json entry = describe(text, ran, calls);
+            entry.update(history.facts);
+            return entry;
+        }
         tell(text, what, calls);
+        for (const std::string& line : history.lines) fmt::print("             {}\n", line);
         return {};
     }
 

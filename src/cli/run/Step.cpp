@@ -2,6 +2,10 @@
 
 #include <fmt/format.h>
 
+#include <charconv>
+#include <optional>
+
+#include "automation/Text.h"
 #include "cli/Failure.h"
 #include "core/CommandTable.h"
 #include "core/iGlobal.h"
@@ -16,6 +20,31 @@ RequestStep parse_request(std::string_view text) {
     return {std::string(text), command};
 }
 
+// "undo", "redo:3", "history": nothing for any other word.
+std::optional<HistoryStep> parse_history(std::string_view text) {
+    using Kind = HistoryStep::Kind;
+    constexpr std::int32_t everything = 1'000'000;
+    const std::size_t colon = text.find(':');
+    const std::string_view word = text.substr(0, colon);
+    HistoryStep step;
+    if (automation::same_text(word, "undo")) {
+        step.kind = Kind::Undo;
+    } else if (automation::same_text(word, "redo")) {
+        step.kind = Kind::Redo;
+    } else if (automation::same_text(word, "history")) {
+        step = {Kind::List, everything};
+    } else {
+        return {};
+    }
+    if (colon == std::string_view::npos) return step;
+    const std::string_view digits = text.substr(colon + 1);
+    const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), step.count);
+    if (error != std::errc{} || end != digits.data() + digits.size() || step.count < 1 || step.count > everything) {
+        throw UsageError(fmt::format("{}: the count is a whole number from 1 on, as in {}:3", text, word));
+    }
+    return step;
+}
+
 }  // namespace
 
 Step parse_step(std::string_view text) {
@@ -26,12 +55,13 @@ Step parse_step(std::string_view text) {
     if (!text.empty() && (text.front() == '-' || text.front() == '+' || (text.front() >= '0' && text.front() <= '9'))) {
         return parse_request(text);
     }
+    if (const auto history = parse_history(text)) return *history;
     const automation::Member* member = core::iGlobal::members().find(text);
     if (text.empty() || !member || !member->is_method || member->required_count > 0) {
-        throw UsageError(
-            fmt::format("{}: is not a step; a step is a selection (@Sheet1!B2:C5), a command request (20.3) or one of "
-                        "iGlobal's members",
-                        text));
+        throw UsageError(fmt::format(
+            "{}: is not a step; a step is a selection (@Sheet1!B2:C5), a command request (20.3), undo, redo, "
+            "history or one of iGlobal's members",
+            text));
     }
     return MemberStep{std::string(member->name)};
 }

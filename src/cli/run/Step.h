@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -19,7 +20,12 @@ struct RequestStep {
 struct MemberStep {
     std::string member;  // an iGlobal member without arguments, as its table spells it
 };
-using Step = std::variant<SelectStep, RequestStep, MemberStep>;
+struct HistoryStep {
+    enum class Kind { Undo, Redo, List };
+    Kind kind = Kind::Undo;
+    std::int32_t count = 1;  // of presses; of lines in a list
+};
+using Step = std::variant<SelectStep, RequestStep, MemberStep, HistoryStep>;
 
 // Reads a step as typed. UsageError for what is none, and for a command that does not exist.
 Step parse_step(std::string_view text);

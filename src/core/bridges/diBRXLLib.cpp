@@ -223,6 +223,29 @@ void diBRXLLib::update_ctrl_enter(bool while_on, bool while_off) const {
     call(AutoColor, "UpdateCtrlEnter", {while_on, while_off});
 }
 
+bool diBRXLLib::begin_step(std::string_view name, const Touches& touches) const {
+    return automation::to_boolean(
+        call(UndoRedo, "BeginStep",
+             {name, static_cast<std::int32_t>(touches.reach), static_cast<std::int32_t>(touches.aspects)}));
+}
+
+bool diBRXLLib::record(const ObjectRef& range, Aspects aspects) const {
+    return automation::to_boolean(call(UndoRedo, "Record", {range, static_cast<std::int32_t>(aspects)}));
+}
+
+void diBRXLLib::end_step() const { call(UndoRedo, "EndStep"); }
+void diBRXLLib::set_undo_point() const { call(UndoRedo, "SetUndoPoint"); }
+void diBRXLLib::undo() const { call(UndoRedo, "Undo"); }
+void diBRXLLib::redo() const { call(UndoRedo, "Redo"); }
+
+std::string diBRXLLib::undo_text() const {
+    return automation::to_text(automation::get(automation::to_required_object(iUndoRedo()), "UndoText"));
+}
+
+std::string diBRXLLib::redo_text() const {
+    return automation::to_text(automation::get(automation::to_required_object(iUndoRedo()), "RedoText"));
+}
+
 void diBRXLLib::register_callback(const ObjectRef& callback) const {
     call(UndoRedo, "RegisterCallback", {client_name, callback});
 }

@@ -9,6 +9,7 @@
 
 #include "core/bridges/AutoColorSettings.h"
 #include "core/bridges/LibraryBridge.h"
+#include "core/bridges/Touches.h"
 
 namespace kestrune::core {
 
@@ -149,6 +150,20 @@ class diBRXLLib : public LibraryBridge {
     void auto_color_workbook() const;   // the active one
     // Whether fills of a whole selection by Ctrl+Enter are coloured while AutoColor is on, and while it is off.
     void update_ctrl_enter(bool while_on, bool while_off) const;
+
+    // Undo: a step is opened, records what it changes and is ended. False when it could not be undone and the person,
+    // who was asked, does not want it: nothing is open then, and nothing may be changed.
+    [[nodiscard]] bool begin_step(std::string_view name, const Touches& touches) const;
+    // Cells that the open step changes besides. False as above; the step stays open.
+    [[nodiscard]] bool record(const automation::ObjectRef& range, Aspects aspects) const;
+    void end_step() const;
+    // Records the selection as the beginning of a step that ends with the next one, with undo or redo.
+    void set_undo_point() const;
+    void undo() const;
+    void redo() const;
+    // What they would do next ("Currency SmartCycle on Model!B4:F20"); empty for nothing.
+    [[nodiscard]] std::string undo_text() const;
+    [[nodiscard]] std::string redo_text() const;
 
     // Has the library call an object of ours back.
     void register_callback(const automation::ObjectRef& callback) const;

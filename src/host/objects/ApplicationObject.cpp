@@ -151,6 +151,23 @@ Value ApplicationObject::run(std::span<const Value> arguments) {
     return session().run_macro(automation::to_text(arguments.front()), arguments.subspan(1));
 }
 
+namespace {
+
+std::optional<WaitingMacro> waiting(const std::string& text, const std::string& procedure) {
+    if (procedure.empty()) return {};
+    return WaitingMacro{text, procedure};
+}
+
+}  // namespace
+
+void ApplicationObject::on_undo(const std::string& text, const std::string& procedure) {
+    session().on_undo = waiting(text, procedure);
+}
+
+void ApplicationObject::on_repeat(const std::string& text, const std::string& procedure) {
+    session().on_repeat = waiting(text, procedure);
+}
+
 void ApplicationObject::set_calculation(std::int32_t mode) {
     if (mode != xlAutomatic && mode != xlCalculationManual && mode != xlCalculationSemiautomatic) {
         refuse("Application.Calculation", "there is no such calculation mode");
@@ -218,7 +235,9 @@ const MemberTable& ApplicationObject::members() {
         property<&A::left, &A::set_left>("Left", 35), property<&A::top, &A::set_top>("Top", 36),
         property<&A::width, &A::set_width>("Width", 37), property<&A::height, &A::set_height>("Height", 38),
         read_only<&A::usable_width>("UsableWidth", 39), read_only<&A::usable_height>("UsableHeight", 40),
-        of_many<&A::run>("Run", 41, macro_and_thirty_arguments), read_only<&A::command_bars>("CommandBars", 42));
+        of_many<&A::run>("Run", 41, macro_and_thirty_arguments), read_only<&A::command_bars>("CommandBars", 42),
+        method<&A::on_undo>("OnUndo", 43, "Text, Procedure"), method<&A::on_repeat>("OnRepeat", 44, "Text, Procedure"),
+        method<&A::undo>("Undo", 45), method<&A::repeat>("Repeat", 46));
     static constexpr MemberTable table("Application", rows);
     return table;
 }

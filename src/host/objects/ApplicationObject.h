@@ -45,6 +45,13 @@ class ApplicationObject final : public WindowPlaceObject<ApplicationObject>, pub
     // Runs a macro by its name with up to thirty arguments; what it answers.
     [[nodiscard]] Value run(std::span<const Value> arguments);
 
+    // What Undo and Repeat run the next time, if nothing changes until then; an empty procedure takes it away.
+    void on_undo(const std::string& text, const std::string& procedure);
+    void on_repeat(const std::string& text, const std::string& procedure);
+    // Without a macro that waits, error 1004: the embedded Excel keeps no list of its own.
+    void undo() { session().run_waiting("Application.Undo", session().on_undo); }
+    void repeat() { session().run_waiting("Application.Repeat", session().on_repeat); }
+
     [[nodiscard]] bool screen_updating() const { return session().screen_updating; }
     void set_screen_updating(bool on) { session().screen_updating = on; }
     [[nodiscard]] bool enable_events() const { return session().enable_events; }

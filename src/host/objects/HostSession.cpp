@@ -158,6 +158,12 @@ Value HostSession::run_macro(std::string_view name, std::span<const Value> argum
     return function(arguments);
 }
 
+void HostSession::run_waiting(std::string_view member, std::optional<WaitingMacro>& waiting) {
+    const auto macro = std::exchange(waiting, std::nullopt);
+    if (!macro) refuse(member, "there is nothing that a macro could take back or repeat");
+    run_macro(macro->procedure, {});
+}
+
 Sheet* HostSession::active_sheet() const {
     if (!active_) return nullptr;
     const auto& sheets = active_->model->sheets();

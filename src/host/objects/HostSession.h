@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,6 +34,12 @@ inline constexpr Rectangle screen{0, 0, 1440, 810};
 struct WindowPlace {
     std::int32_t state = xlMaximized;
     Rectangle normal;  // where the window is when it is neither maximised nor minimised
+};
+
+// A macro that waits to be run by Excel's Undo or Repeat, and what the menu calls it.
+struct WaitingMacro {
+    std::string text;
+    std::string procedure;
 };
 
 // A workbook that is open, and what its one window remembers about it besides the sheets' own views.
@@ -88,12 +95,19 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     bool activate(Sheet& sheet);
     // After sheets were hidden: brings the nearest visible one to the top when the active one is hidden.
     void leave_hidden(Workbook& workbook);
-    // Notes that a workbook differs from what was saved.
-    void changed(const Workbook& workbook) { opened(workbook).saved = false; }
+    // Notes that a workbook differs from what was saved. What Undo and Repeat would have run no longer fits.
+    void changed(const Workbook& workbook) {
+        opened(workbook).saved = false;
+        on_undo.reset();
+        on_repeat.reset();
+    }
 
     // Runs a macro as Application.Run does. Without a workbook in its name the active workbook's macros come first,
     // then those of add-ins, then those of the other workbooks. Error 1004 when there is none.
     automation::Value run_macro(std::string_view name, std::span<const automation::Value> arguments);
+
+    // Runs what waits in on_undo or on_repeat, once. Error 1004 when nothing does.
+    void run_waiting(std::string_view member, std::optional<WaitingMacro>& waiting);
 
     // The application's events: whoever listens is told at once, unless EnableEvents is off. Gives the arguments back
     // as the listeners left them.
@@ -104,6 +118,8 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     automation::Arguments raise(std::string_view event, automation::Arguments arguments);
 
     Macros macros;
+    std::optional<WaitingMacro> on_undo;
+    std::optional<WaitingMacro> on_repeat;
     std::shared_ptr<CommandBars> command_bars;  // null until somebody asks for them
     WorkbookStore* store = nullptr;  // what Workbooks.Open opens; without one it finds nothing. Outlives the session
 

@@ -30,7 +30,7 @@ Sheet& WindowObject::sheet() const {
 
 void WindowObject::view_changed(Sheet& sheet) const {
     sheet.view().changed = true;
-    session().changed(*opened_.model);
+    opened_.saved = false;
 }
 
 ObjectRef WindowObject::active_sheet() const {

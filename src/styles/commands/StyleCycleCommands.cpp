@@ -72,9 +72,14 @@ void apply_style_cycle(core::SharedState& shared, StyleCycle cycle, std::int32_t
     if (cycle == StyleCycle::BinaryStyleToggle) add_binary_conditions(shared, conditions);
 }
 
+std::string name_of_cycle(const core::SharedState& shared, StyleCycle cycle) {
+    const StyleToggleRef& toggle = shared.settings().cycle(cycle);
+    return toggle ? toggle->Name : std::string();
+}
+
 void ApplySmartCycleStyle(core::SharedState& shared, std::int32_t cycle_number, std::int32_t position,
                           const automation::ObjectRef& range) {
-    if (cycle_number < 1 || cycle_number > static_cast<std::int32_t>(settings::my_style_cycle_count)) return;
+    if (!settings::is_my_style_cycle(cycle_number)) return;
     if (!excel::Range::is(range)) return;
     const ResumeNext attempt(shared.trace);
     attempt([&] {

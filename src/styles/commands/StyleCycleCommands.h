@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "core/bridges/SharedState.h"
 #include "settings/StyleCycle.h"
@@ -16,6 +17,14 @@ void apply_style_cycle(core::SharedState& shared, settings::StyleCycle cycle, st
 template <settings::StyleCycle cycle>
 void style_cycle_command(core::SharedState& shared, std::int32_t position) {
     apply_style_cycle(shared, cycle, position);
+}
+
+// A cycle's name as the user settings have it; empty when they lack it.
+std::string name_of_cycle(const core::SharedState& shared, settings::StyleCycle cycle);
+
+template <settings::StyleCycle cycle>
+std::string style_cycle_name(const core::SharedState& shared) {
+    return name_of_cycle(shared, cycle);
 }
 
 // Applies the entry at a position of one of the user's cycles (1 to 15) to a range; position 0 steps
