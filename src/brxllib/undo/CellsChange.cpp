@@ -1,5 +1,7 @@
 #include "brxllib/undo/CellsChange.h"
 
+#include <ranges>
+
 #include "automation/AutomationError.h"
 #include "excel/Worksheet.h"
 #include "formula/SheetName.h"
@@ -19,37 +21,74 @@ std::optional<std::string> sheet_name_of(const excel::Range& cells) {
     }
 }
 
+std::string refusal(const excel::Range& cells, const std::string& line) {
+    const excel::Worksheet sheet = cells.Worksheet();
+    return sheet.ProtectContents() ? "the worksheet " + formula::quoted_sheet(sheet.Name()) + " is protected" : line;
+}
+
 }  // namespace
 
 bool CellsChange::finish() {
-    after_ = before_.again(most_bytes_, trace_);
-    return !after_ || !(*after_ == before_);
+    std::erase_if(cells_, [&](Cells& cells) {
+        cells.after = cells.before.again(most_bytes_, trace_);
+        cells.present = cells.after;
+        return cells.after == cells.before;
+    });
+    return !cells_.empty();
 }
 
-std::optional<Obstacle> CellsChange::obstacle(Direction direction) const {
-    if (!after_) return Obstacle{"more was changed than can be remembered", true};
-    const auto sheet = sheet_name_of(before_.area());
-    if (!sheet) return Obstacle{"its worksheet or workbook is no longer there", true};
-    if (!before_.in_place()) {
-        return Obstacle{"rows or columns have been inserted or deleted on " + formula::quoted_sheet(*sheet), true};
+std::optional<Obstacle> CellsChange::obstacle(Direction) const {
+    for (const Cells& cells : cells_) {
+        if (std::string why = obstacle_of(cells); !why.empty()) return Obstacle{std::move(why), true};
     }
-    const Snapshot& expected = direction == Direction::Undo ? *after_ : before_;
-    const auto present = expected.again(most_bytes_, trace_);
-    if (!present || !(*present == expected)) return Obstacle{"its cells have been changed since", true};
     return {};
 }
 
-void CellsChange::give_back(const Snapshot& wanted, const Snapshot& present) const {
-    const std::vector<std::string> refusals = wanted.restore(trace_);
-    if (refusals.empty()) return;
-    const std::vector<std::string> lost = present.restore(trace_);
-    const excel::Worksheet sheet = wanted.area().Worksheet();
-    std::string why = sheet.ProtectContents() ? "the worksheet " + formula::quoted_sheet(sheet.Name()) + " is protected"
-                                              : refusals.front();
-    if (!lost.empty()) why += "; not all of it could be put back: " + lost.front();
-    throw AutomationError(automation::hresult::excel_error, "iUndoRedo", why);
+std::string CellsChange::obstacle_of(const Cells& cells) const {
+    if (!cells.present) return "more was changed than can be remembered";
+    const auto sheet = sheet_name_of(cells.before.area());
+    if (!sheet) return "its worksheet or workbook is no longer there";
+    if (!cells.before.in_place()) {
+        return "rows or columns have been inserted or deleted on " + formula::quoted_sheet(*sheet);
+    }
+    return cells.present == cells.present->again(most_bytes_, trace_) ? "" : "its cells have been changed since";
 }
 
-std::size_t CellsChange::bytes() const { return before_.bytes() + (after_ ? after_->bytes() : 0); }
+void CellsChange::undo() {
+    give_back(cells_ | std::views::reverse, [](const Cells& cells) -> const Snapshot& { return cells.before; });
+}
+
+void CellsChange::redo() {
+    give_back(cells_, [](const Cells& cells) -> const Snapshot& { return *cells.after; });
+}
+
+template <class Order>
+void CellsChange::give_back(const Order& order, Wanted wanted) {
+    for (const Cells& cells : order) {
+        const std::vector<std::string> refusals = wanted(cells).restore(trace_);
+        if (refusals.empty()) continue;
+        std::string why = refusal(cells.before.area(), refusals.front());
+        for (const Cells& touched : cells_) {
+            const std::vector<std::string> lost = touched.present->restore(trace_);
+            if (lost.empty()) continue;
+            why += "; not all of it could be put back: " + lost.front();
+            break;
+        }
+        throw AutomationError(automation::hresult::excel_error, "iUndoRedo", why);
+    }
+    for (Cells& cells : cells_) {
+        cells.present = cells.before.again(most_bytes_, trace_);
+        if (cells.present == wanted(cells)) cells.present = wanted(cells);
+    }
+}
+
+std::size_t CellsChange::bytes() const {
+    std::size_t sum = sizeof(CellsChange);
+    for (const Cells& cells : cells_) {
+        sum += sizeof cells + cells.before.bytes();
+        if (cells.after) sum += cells.after->bytes();  // present is the same record as one of the two
+    }
+    return sum;
+}
 
 }  // namespace kestrune::brxllib::undo

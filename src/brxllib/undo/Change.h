@@ -16,8 +16,8 @@ struct Obstacle {
 };
 
 // One thing that a step does to a workbook, as long as undo remembers it. Made before the thing is done; finished when
-// the step ends. Changes of a step are undone from the last to the first and redone from the first to the last, so
-// each is asked and moved with the cells as it left them, or found them.
+// it is, which is when the step ends or makes another change. Changes of a step are undone from the last to the first
+// and redone from the first to the last, so each is asked and moved with the cells as it left them, or found them.
 class Change {
   public:
     Change() = default;
@@ -25,7 +25,8 @@ class Change {
     Change& operator=(const Change&) = delete;
     virtual ~Change() = default;
 
-    // The step ends: takes in what redo needs. False when nothing changed; then the change is forgotten.
+    // What it is about has happened: the step ends, or goes on with another change. Takes in what redo needs. False
+    // when nothing changed; then the change is forgotten.
     virtual bool finish() { return true; }
 
     // What stands in the way now: a sheet that is gone or protected, cells that somebody changed since. Changes

@@ -107,7 +107,14 @@ bool Recorder::record(const excel::Range& cells, Aspects aspects) {
     auto before = Snapshot::take(library_.application, cells, aspects, free, library_.trace);
     if (!before) return give_up(too_much);
     if (!before->irreplaceable().empty()) return give_up(before->irreplaceable().front());
-    stack.add(std::make_unique<CellsChange>(std::move(*before), most, library_.trace));
+    auto& changes = stack.open()->changes;
+    auto* cells_so_far = changes.empty() ? nullptr : dynamic_cast<CellsChange*>(changes.back().get());
+    if (!cells_so_far) {
+        auto change = std::make_unique<CellsChange>(most, library_.trace);
+        cells_so_far = change.get();
+        stack.add(std::move(change));
+    }
+    cells_so_far->add(std::move(*before));
     return true;
 }
 

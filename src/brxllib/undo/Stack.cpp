@@ -84,7 +84,21 @@ void Stack::add(std::unique_ptr<Change> change) {
     if (!open_) {
         throw AutomationError(automation::hresult::excel_error, "iUndoRedo.Record", "no step is open");
     }
-    if (!given_up_) open_->changes.push_back(std::move(change));
+    if (given_up_) return;
+    finish_last();
+    open_->changes.push_back(std::move(change));
+}
+
+void Stack::finish_last() {
+    auto& changes = open_->changes;
+    if (changes.empty()) return;
+    bool changed = false;
+    try {
+        changed = changes.back()->finish();
+    } catch (const AutomationError&) {
+        // What cannot be looked at any more cannot be given back.
+    }
+    if (!changed) changes.pop_back();
 }
 
 void Stack::give_up() {
@@ -109,15 +123,9 @@ void Stack::end_point() {
 }
 
 void Stack::close() {
+    finish_last();
     const std::unique_ptr<Step> step = std::move(open_);
     given_up_ = false;
-    std::erase_if(step->changes, [](const auto& change) {
-        try {
-            return !change->finish();
-        } catch (const AutomationError&) {
-            return true;  // what cannot be looked at any more cannot be given back
-        }
-    });
     if (step->changes.empty()) return;
     undone_.clear();
     done_.push_back(std::move(*step));

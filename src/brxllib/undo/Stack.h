@@ -39,7 +39,8 @@ class Stack {
     void begin_point(std::string name);
     // The step that is open; null when none is.
     [[nodiscard]] Step* open() const { return open_.get(); }
-    // Puts a change on record, before it happens. Fails with AutomationError while no step is open.
+    // Puts a change on record, before it happens; what was recorded before it has happened. Fails with AutomationError
+    // while no step is open.
     void add(std::unique_ptr<Change> change);
     // The open step cannot be taken back: it forgets its changes, and those still to come.
     void give_up();
@@ -77,6 +78,7 @@ class Stack {
     Outcome move(Direction direction);
     void end_point();
     void close();
+    void finish_last();
     void trim();
 
     Limits limits_;
