@@ -15,7 +15,7 @@ struct Message {
 // clang-format off
 constexpr auto messages = std::to_array<Message>({
     // Start-up
-    {3021, "Your user preferences could not be read.  The default settings have been restored and saved in their place."},
+    {3021, "Your user preferences could not be found or read.  The default settings are now in use and have been saved.  A file that could not be read is kept in the same folder, under a name that says \"unreadable\"."},
     {3025, "Unable to find the examples workbook.  Please reinstall Kestrune or contact technical support.  Missing file: "},
     {3026, "Unable to find the product help.  Please reinstall Kestrune or contact technical support.  Missing file: "},
     {3027, "The product help could not be opened: "},
@@ -39,6 +39,7 @@ constexpr auto messages = std::to_array<Message>({
     {3132, "Your user preferences have been successfully exported."},
     {3133, "Restoring the defaults will replace all of your current settings, including your styles, SmartCycles and colors.  Would you like to proceed?"},
     {3134, "The default settings have been restored."},
+    {3135, "Your user preferences could not be exported.  Please choose another folder or file name and try again."},
     // Tutorial
     {3150, "The lesson workbook could not be opened.  Please check that the lesson files are installed in the lessons folder, or contact technical support."},
 });

@@ -2,11 +2,11 @@
 
 #include "automation/ResumeNext.h"
 #include "core/ExamplesWorkbook.h"
-#include "core/UserSettings.h"
 #include "core/bridges/Product.h"
 #include "core/diHotKeys.h"
 #include "core/diUndoRedo.h"
 #include "forms/MsgBox.h"
+#include "settings/LiveSettings.h"
 
 namespace kestrune::core {
 
@@ -33,7 +33,7 @@ bool start_up(const std::shared_ptr<SharedState>& state) {
     attempt.assign(show_examples, [&] { return shared.general().shows_examples_at_start(); });
     attempt([&] { shared.general().set_hot_key_product(shared.general().constant(0)); });
     // A first start, which shows the examples, has no settings yet, and nothing is wrong with that.
-    load_user_settings(shared, !show_examples);
+    settings::load_settings(shared, !show_examples);
     shared.command_collection = std::make_unique<std::vector<automation::Value>>();
     shared.counter = 0;
     if (show_examples) show_examples_workbook(shared);
@@ -44,6 +44,7 @@ void shut_down(SharedState& shared) {
     shared.xl.reset();
     shared.application.reset();
     shared.add_in_workbook.reset();
+    shared.product_menu.reset();
     shared.spreadsheet_library.reset();
     shared.general_library.reset();
     shared.user_settings.reset();

@@ -4,8 +4,8 @@
 #include "core/CommandArray.h"
 #include "core/Dispatcher.h"
 #include "core/ExamplesWorkbook.h"
-#include "core/UserSettings.h"
 #include "core/bridges/Product.h"
+#include "settings/LiveSettings.h"
 
 namespace kestrune::core {
 
@@ -32,7 +32,7 @@ void diHotKeys::show_sample(const std::string& topic) const {
 
 void diHotKeys::update_user_settings() const {
     const auto shared = shared_;
-    if (shared->general_library) load_user_settings(*shared, false);
+    if (shared->general_library) settings::reload_settings(*shared);
 }
 
 void diHotKeys::display_array(const Value& array) const {

@@ -10,7 +10,7 @@ using core::SharedState;
 
 void hand_over_auto_color(SharedState& shared) {
     const ResumeNext attempt(shared.trace);
-    attempt([&] { shared.spreadsheet().set_auto_color(shared.settings().AutoColor); });
+    attempt([&] { shared.spreadsheet().set_auto_color(shared.settings()); });
 }
 
 void toggle_auto_color(SharedState& shared) {

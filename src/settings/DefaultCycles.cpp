@@ -3,6 +3,38 @@
 #include <array>
 
 namespace kestrune::settings {
+namespace {
+
+// BGR colours. All are entries of the default palette, so that fonts keep them unchanged.
+constexpr double black = 0x000000;
+constexpr double white = 0xFFFFFF;
+constexpr double red = 0x0000FF;
+constexpr double green = 0x00FF00;
+constexpr double blue = 0xFF0000;
+constexpr double yellow = 0x00FFFF;
+constexpr double gray = 0x808080;
+constexpr double light_gray = 0xC0C0C0;
+constexpr double orange = 0x0099FF;
+
+}  // namespace
+
+std::span<const DefaultNumericCycle> default_numeric_cycles() {
+    using enum NumericCycle;
+    static const std::array<DefaultNumericCycle, numeric_cycle_count> rows{{
+        {IndentToggle, "Indent SmartCycle", {1, 2, 3, 4, 0}},
+        {RightIndentToggle, "Right Indent SmartCycle", {1, 2, 3, 4, 0}},
+        {RowHeightToggle, "Row Height SmartCycle", {8, 17, 34}},
+        {ColWidthToggle, "Column Width SmartCycle", {5, 15, 64, 150}},
+        {MyColorToggle1, "Blue Black SmartCycle", {blue, black}},
+        // What AutoColor leaves alone: texts on dark fills, notes, marks. None of the colours that it gives itself,
+        // since cells would keep those for ever.
+        {MyColorToggle2, "", {white, gray, light_gray, orange}},
+        {MyColorToggle3, "My Color SmartCycle 3", {red, green, yellow, black, black}},
+        {MyColorToggle4, "My Color SmartCycle 4", {green, yellow, black, black}},
+        {MyColorToggle5, "My Color SmartCycle 5", {red, green, yellow, black}},
+    }};
+    return rows;
+}
 
 std::span<const DefaultCycle> default_cycles() {
     using enum StyleCycle;

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 namespace kestrune::settings {
 
@@ -36,7 +38,14 @@ enum class StyleCycle : std::size_t {
     MyStyleToggle15,
 };
 
-inline constexpr std::size_t style_cycle_count = 27;
+inline constexpr auto style_cycle_names = std::to_array<std::string_view>(
+    {"GeneralStyleToggle", "CurrencyStyleToggle",  "PercentStyleToggle", "MultipleSTyleToggle", "DateStyleToggle",
+     "BinaryStyleToggle",  "UnderlineStyleToggle", "CenterStyleToggle",  "HAlignStyleToggle",   "VAlignStyleToggle",
+     "BorderStyleToggle",  "CellColorStyleToggle", "MyStyleToggle1",     "MyStyleToggle2",      "MyStyleToggle3",
+     "MyStyleToggle4",     "MyStyleToggle5",       "MyStyleToggle6",     "MyStyleToggle7",      "MyStyleToggle8",
+     "MyStyleToggle9",     "MyStyleToggle10",      "MyStyleToggle11",    "MyStyleToggle12",     "MyStyleToggle13",
+     "MyStyleToggle14",    "MyStyleToggle15"});
+inline constexpr std::size_t style_cycle_count = style_cycle_names.size();
 inline constexpr std::size_t my_style_cycle_count = 15;
 
 constexpr bool is_my_style_cycle(std::int32_t number) {

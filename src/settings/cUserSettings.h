@@ -1,48 +1,62 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <memory>
 #include <string>
+#include <utility>
 
-#include "core/bridges/AutoColorSettings.h"
+#include "settings/NumericCycle.h"
+#include "settings/SettingValues.h"
 #include "settings/StyleCycle.h"
+#include "styles/cLongToggle.h"
 #include "styles/cStyleToggle.h"
 #include "styles/cStyles.h"
 
 namespace kestrune::settings {
 
+// What the default settings take from elsewhere.
+struct DefaultSources {
+    core::AutoColorSettings auto_color{};  // the spreadsheet library's constants
+    std::string respected_cycle{};         // the name of the SmartCycle whose colours AutoColor leaves alone
+    bool training = true;                  // whether the tutorial is installed
+    automation::Date today{};              // the default fill dates are those of its year
+};
+
 // Everything that a user can set. One record lives while the add-in is loaded; dialogs work on a Copy.
-// Created empty.
-class cUserSettings {
+// Created empty, each cycle without a step.
+class cUserSettings : public SettingValues {
   public:
-    cUserSettings() = default;
+    cUserSettings();
     cUserSettings(const cUserSettings&) = delete;
     cUserSettings& operator=(const cUserSettings&) = delete;
 
     styles::StylesRef Styles = std::make_shared<styles::cStyles>();  // the library
     styles::StyleRef BRPaintbrushStyle;
     styles::StyleRef SheetStyle;
-    std::string ErrorMsg;           // a quoted text ("\"NA\"")
-    bool TrainingModule = false;    // whether the tutorial menu is shown
-    std::int32_t ZoomInterval = 0;  // per cent
-    core::AutoColorSettings AutoColor;
 
+    [[nodiscard]] const styles::LongToggleRef& cycle(NumericCycle field) const {
+        return numeric_cycles_[static_cast<std::size_t>(field)];
+    }
+    // Never null.
+    void set_cycle(NumericCycle field, styles::LongToggleRef toggle) {
+        numeric_cycles_[static_cast<std::size_t>(field)] = std::move(toggle);
+    }
     [[nodiscard]] const styles::StyleToggleRef& cycle(StyleCycle field) const {
-        return cycles_[static_cast<std::size_t>(field)];
+        return style_cycles_[static_cast<std::size_t>(field)];
     }
     void set_cycle(StyleCycle field, styles::StyleToggleRef toggle) {
-        cycles_[static_cast<std::size_t>(field)] = std::move(toggle);
+        style_cycles_[static_cast<std::size_t>(field)] = std::move(toggle);
     }
 
-    // Fills the record with the settings of a fresh installation. Those of AutoColor are the spreadsheet library's.
-    void LoadDefaults(const core::AutoColorSettings& auto_color = {});
+    // Fills the record with the settings of a fresh installation.
+    void LoadDefaults(const DefaultSources& sources = {});
 
-    // A record with the same values and styles of its own, to which its cycles refer.
+    // A record with the same values and with styles and cycles of its own.
     [[nodiscard]] std::shared_ptr<cUserSettings> Copy() const;
 
   private:
-    std::array<styles::StyleToggleRef, style_cycle_count> cycles_;
+    std::array<styles::LongToggleRef, numeric_cycle_count> numeric_cycles_;
+    std::array<styles::StyleToggleRef, style_cycle_count> style_cycles_;
 };
 
 }  // namespace kestrune::settings

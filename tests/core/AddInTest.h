@@ -30,7 +30,7 @@ struct AddInTest : testing::Test {
         }
     }
 
-    // Writes down every call to a library from now on.
+    // Writes down every call to a library from now on, but for those that read and write documents.
     void watch(const std::string& library) {
         automation::register_class(library + ".iPublic",
                                    [this, library, real = automation::CreateObject(library + ".iPublic")] {

@@ -99,10 +99,12 @@ Value Spy::invoke(std::string_view member, Call kind, Arguments& arguments) {
     }
     if (member == "RegisterCallback") callbacks_[path_] = automation::to_object(arguments.positional.at(1));
     Value answer = real_->invoke(member, kind, arguments);
-    if (const auto* object = answer.if_is<automation::ObjectRef>(); object && *object) {
+    // The nodes of a document go back to the service that made them, which knows only its own.
+    const auto* object = answer.if_is<automation::ObjectRef>();
+    if (object && *object && !(*object)->type_name().starts_with("IXMLDOM")) {
         return std::make_shared<Spy>(*object, line, log_, callbacks_);
     }
-    log_.push_back(fmt::format("{}({})", line, given));
+    if (!path_.ends_with(".iXML")) log_.push_back(fmt::format("{}({})", line, given));
     return answer;
 }
 

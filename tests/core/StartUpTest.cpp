@@ -1,6 +1,7 @@
 #include "core/AddInTest.h"
 #include "core/StartUp.h"
 #include "core/iPublic.h"
+#include "settings/UserFiles.h"
 #include "settings/cUserSettings.h"
 
 namespace kestrune::core {
@@ -13,7 +14,11 @@ using automation::Value;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-struct StartUpTest : AddInTest {};
+struct StartUpTest : AddInTest {
+    StartUpTest() {
+        brvblib::register_library(settings::with_user_files({.trace = trace, .presenter = presenter}));
+    }
+};
 
 TEST_F(StartUpTest, GivesCommandObjectsThatShareOneState) {
     entry = create_public();
@@ -89,7 +94,7 @@ TEST_F(StartUpTest, GoesStepByStep) {
                                  "BRVBLib.iHotKeys.Registry.RegisterCallback(KestruneXL,object)",
                                  "BRXLLib.iUndoRedo.RegisterCallback(KestruneXL,object)",
                                  "BRVBLib.iProduct.ShowExamplesAtStart()", "BRVBLib.iConst.Text(0)",
-                                 "BRVBLib.iHotKeys.Registry.Product(Kestrune)", "BRVBLib.iProduct.MachineValue(TT)",
+                                 "BRVBLib.iHotKeys.Registry.Product(Kestrune)", "BRVBLib.iProduct.DataFolder()",
                                  "BRVBLib.iProduct.AllowsTraining()", "BRXLLib.SetApplication(object)",
                                  "BRVBLib.SetApplication(object)"));
     EXPECT_THAT(skipped, IsEmpty());

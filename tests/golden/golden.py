@@ -20,6 +20,7 @@ kestrune = os.environ.get("KESTRUNE") or str(here.parents[1] / "build" / "releas
 def changes_of(steps: pathlib.Path) -> str:
     with tempfile.TemporaryDirectory() as folder:
         out = pathlib.Path(folder) / "out.xlsx"
+        os.environ["XDG_CONFIG_HOME"] = folder  # the settings of a fresh installation
         session = shlex.split(steps.read_text(), comments=True)
         subprocess.run([kestrune, "run", example, "-o", out, *session], check=True, stdout=subprocess.DEVNULL)
         return subprocess.run([kestrune, "diff", example, out], check=True, text=True, capture_output=True).stdout

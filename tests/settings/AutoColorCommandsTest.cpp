@@ -71,17 +71,5 @@ TEST_F(AutoColorCommands, WithoutCellsOrLibrariesNothingHappens) {
     EXPECT_EQ(colors(), (std::vector<std::int32_t>{black, black, black}));
 }
 
-TEST(UserSettings, AutoColorSettingsAreKeptAndCopied) {
-    core::AutoColorSettings settings;
-    settings.bAutoColorText = true;
-    settings.PartialInputColor = 0x123456;
-    cUserSettings record;
-    record.LoadDefaults(settings);
-    const auto copy = record.Copy();
-    EXPECT_EQ(copy->AutoColor, settings);
-    copy->AutoColor.InputColor = 255;
-    EXPECT_EQ(record.AutoColor, settings);
-}
-
 }  // namespace
 }  // namespace kestrune::settings

@@ -38,6 +38,14 @@ def regsvr32(*switches):
             sys.exit(f"regsvr32 {' '.join(switches)} {library}.dll: exit status {status}")
 
 
+def give_preferences():
+    """The file of a user who is no newcomer: a newcomer would be shown a message, and nobody is there to press OK."""
+    folder = r"%APPDATA%\Brannoch\Kestrune"
+    golden = str(Path(__file__).resolve().parents[1] / "settings" / "golden" / "UserPreferences.xml").replace("/", "\\")
+    if wine("cmd", "/c", rf"md {folder} & copy /y Z:{golden} {folder}\UserPreferences.xml").returncode:
+        sys.exit("the preferences file cannot be put in its place")
+
+
 def check_nothing_left(before, how):
     left = sorted(set(registry()) ^ set(before))
     if left:
@@ -67,6 +75,7 @@ def main():
     regsvr32("/u", "/n", "/i:user")
     check_nothing_left(before, "registering for the user and taking it back")
 
+    give_preferences()
     regsvr32()
     try:
         script = Path(__file__).with_name("companion.vbs")

@@ -22,6 +22,7 @@ enum class Text : std::int32_t {
     Exported = 3132,
     RestoreQuestion = 3133,
     Restored = 3134,
+    ExportFailed = 3135,
     LessonNotOpened = 3150,
 };
 

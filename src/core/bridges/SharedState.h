@@ -24,17 +24,23 @@ namespace kestrune::core {
 // The objects that everything in the add-in works with: one set a loaded component, shared by every iPublic and
 // iGlobal. Each reference is null until start-up has made it, and again after shut-down.
 struct SharedState {
-    SharedState(forms::Presenter& shown_by, const automation::Trace& told_to, std::string installed_in = {})
-        : presenter(shown_by), trace(told_to), installation_folder(std::move(installed_in)) {}
+    SharedState(forms::Presenter& shown_by, const automation::Trace& told_to, std::string installed_in = {},
+                std::string preferences_in = {})
+        : presenter(shown_by),
+          trace(told_to),
+          installation_folder(std::move(installed_in)),
+          preferences_file(std::move(preferences_in)) {}
 
     // What the component was wired with; presenter and trace outlive it.
     forms::Presenter& presenter;
     const automation::Trace& trace;
     const std::string installation_folder;  // the component's own, where its files lie beside it
+    const std::string preferences_file;     // of the user, when it is not the one in their folder for data
 
     std::shared_ptr<cXL> xl;
     automation::ObjectRef application;      // Excel's Application
     automation::ObjectRef add_in_workbook;  // the companion workbook
+    automation::ObjectRef product_menu;     // in Excel's menu bar; Nothing while nobody looked for it
     std::shared_ptr<diBRVBLib> general_library;
     std::shared_ptr<diBRXLLib> spreadsheet_library;
     std::shared_ptr<settings::cUserSettings> user_settings;

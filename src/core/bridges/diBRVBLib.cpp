@@ -90,6 +90,10 @@ bool diBRVBLib::check_numeric_field(std::string_view text, std::string_view fiel
 
 std::string diBRVBLib::name_text(std::string_view text) const { return to_text(call(String, "NameText", {text})); }
 
+automation::Date diBRVBLib::now() const {
+    return automation::Date{automation::to_double(automation::get(automation::to_required_object(iDate()), "Now"))};
+}
+
 std::string diBRVBLib::present_time_text() const { return to_text(call(Date, "Text")); }
 
 automation::Date diBRVBLib::date_add(std::string_view interval, double number, automation::Date date) const {

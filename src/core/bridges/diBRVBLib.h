@@ -74,6 +74,8 @@ class diBRVBLib : public LibraryBridge {
     // A text made fit to be part of a defined name.
     [[nodiscard]] std::string name_text(std::string_view text) const;
 
+    // The present date and time.
+    [[nodiscard]] automation::Date now() const;
     // The present date and time as en-US shows them, "11/22/2026 9:05:00 PM"; and a date some intervals later, as
     // Visual Basic's DateAdd has it.
     [[nodiscard]] std::string present_time_text() const;

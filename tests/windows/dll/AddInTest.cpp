@@ -2,6 +2,8 @@
 
 #include <objbase.h>
 
+#include <filesystem>
+
 #include "automation/Conversion.h"
 #include "automation/Text.h"
 #include "excel/Application.h"
@@ -34,6 +36,14 @@ struct Apartment {
 
 // The registered add-in, loaded through COM as the companion workbook loads it.
 struct AddIn : testing::Test {
+    AddIn() {
+        // The file of a user who is no newcomer: a newcomer would be shown a message that waits for somebody.
+        namespace fs = std::filesystem;
+        const fs::path folder = fs::path(_wgetenv(L"APPDATA")) / "Brannoch" / "Kestrune";
+        fs::create_directories(folder);
+        fs::copy_file(KESTRUNE_SOURCE_DIR "/tests/settings/golden/UserPreferences.xml", folder / "UserPreferences.xml",
+                      fs::copy_options::overwrite_existing);
+    }
     void start(const ObjectRef& application) {
         entry = create_com_object("KestruneXL.iPublic");
         EXPECT_EQ(to_object(call(*entry, "NewGlobal")), nullptr) << "before NewPublic";
