@@ -15,9 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 struct StartUpTest : AddInTest {
-    StartUpTest() {
-        brvblib::register_library(settings::with_user_files({.trace = trace, .presenter = presenter}));
-    }
+    StartUpTest() { brvblib::register_library(settings::with_user_files({.trace = trace, .presenter = presenter})); }
 };
 
 TEST_F(StartUpTest, GivesCommandObjectsThatShareOneState) {

@@ -127,7 +127,8 @@ TEST_F(PreferencesFileTest, StyleNamesThatAreNotThereLeaveTheReferenceEmpty) {
 
 TEST_F(PreferencesFileTest, FilesMayBeEditedByHand) {
     std::string bare = edited(file, " dt:dt=\"i4\"", "");
-    for (const char* type : {" dt:dt=\"r8\"", " dt:dt=\"boolean\"", " dt:dt=\"dateTime\""}) bare = edited(bare, type, "");
+    for (const char* type : {" dt:dt=\"r8\"", " dt:dt=\"boolean\"", " dt:dt=\"dateTime\""})
+        bare = edited(bare, type, "");
     std::string one_line;
     std::ranges::remove_copy_if(edited(file, "  ", ""), std::back_inserter(one_line),
                                 [](char c) { return c == '\r' || c == '\n'; });
