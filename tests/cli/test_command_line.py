@@ -25,7 +25,9 @@ class CommandLineTest(unittest.TestCase):
         folder = tempfile.TemporaryDirectory()
         self.addCleanup(folder.cleanup)
         self.folder = pathlib.Path(folder.name)
-        os.environ["XDG_CONFIG_HOME"] = str(self.folder / "config")  # nobody's own settings
+        config = tempfile.TemporaryDirectory()
+        self.addCleanup(config.cleanup)
+        os.environ["XDG_CONFIG_HOME"] = config.name  # nobody's own settings
         self.book = self.folder / "book.xlsx"
         book = openpyxl.Workbook()
         model = book.active
