@@ -19,6 +19,9 @@ _kestrune() {
         return
     fi
     compopt -o filenames
-    COMPREPLY=($(compgen -f -- "$word"))
+    if [[ $command == run ]] && ((COMP_CWORD > 2)); then
+        COMPREPLY=($(compgen -W "undo redo history" -- "$word"))
+    fi
+    COMPREPLY+=($(compgen -f -- "$word"))
 }
 complete -F _kestrune kestrune

@@ -4,6 +4,7 @@ complete -c kestrune -n __fish_use_subcommand -f -a commands -d 'List the comman
 complete -c kestrune -n __fish_use_subcommand -f -a cell -d 'Describe cells'
 complete -c kestrune -n __fish_use_subcommand -f -a show -d 'Show a sheet'
 complete -c kestrune -n __fish_use_subcommand -f -a diff -d 'Compare two workbooks'
+complete -c kestrune -n '__fish_seen_subcommand_from run' -a 'undo redo history' -d 'A step on what commands did'
 complete -c kestrune -n '__fish_seen_subcommand_from run' -s o -l output -r -d 'Where to save'
 complete -c kestrune -n '__fish_seen_subcommand_from run' -l in-place -d 'Save over the workbook'
 complete -c kestrune -n '__fish_seen_subcommand_from run' -l answer -x -a 'ok cancel yes no ask' -d 'Answer to questions'

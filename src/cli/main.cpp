@@ -43,8 +43,10 @@ void add_run(CLI::App& app, RunOptions& options) {
         ->capture_default_str();
     command->add_flag("--json", options.json, "Report each step as JSON");
     command->add_flag("--trace", options.trace, "Tell on standard error what commands skipped");
-    command->add_option("STEP", options.steps,
-                        "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, RunAutoColor a member");
+    command->add_option(
+        "STEP", options.steps,
+        "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, undo:2 undoes, redo, history, RunAutoColor a "
+        "member");
     command->footer(
         "Steps run from left to right in one session; without steps the workbook is saved as it is.\n"
         "Without -o and --in-place nothing is saved.");

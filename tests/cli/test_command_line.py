@@ -95,6 +95,24 @@ class Running(CommandLineTest):
             self.assertTrue(step["ran"])
         self.assertLess(steps[1]["calls"], 200, "20 cells cost no more calls than one")
 
+    def test_undoes_redoes_and_lists_steps(self):
+        out = self.folder / "out.xlsx"
+        result = self.run_ok("run", self.book, "-o", out, "--json", "@Model!B2:C3", "20", "@D1", "21.2", "history", "undo:3",
+                             "redo", "BRUndo", "history:1")
+        steps = json.loads(result.stdout)
+        currency, percent = "Currency SmartCycle on Model!B2:C3", "Percent SmartCycle on Model!D1"
+        self.assertEqual((steps[4]["undo"], steps[4]["redo"]), ([percent, currency], []))
+        self.assertGreater(steps[4]["bytes"], 0)
+        self.assertEqual((steps[5]["steps"], steps[5]["ran"]), ([percent, currency], False), "there were only two")
+        self.assertEqual((steps[6]["steps"], steps[6]["ran"]), ([currency], True))
+        self.assertEqual((steps[8]["undo"], steps[8]["redo"]), ([], [currency]))
+        self.assertEqual(self.run_ok("diff", self.book, out).stdout, "")
+        text = self.run_ok("run", self.book, "20", "undo", "redo", "redo", "HISTORY").stdout
+        for line in ("undid Currency SmartCycle on Model!A1", "redid Currency", "nothing to redo", "1 to undo, 0 to redo"):
+            self.assertIn(line, text)
+        for wrong in ("undo:", "undo:0", "redo:x", "history:-1", "undos"):
+            self.assertEqual(kestrune("run", self.book, wrong).returncode, 2, wrong)
+
     def test_without_steps_the_file_comes_out_as_it_went_in(self):
         out = self.folder / "out.xlsx"
         for source in (self.book, EXAMPLE):
