@@ -66,7 +66,7 @@ const std::array<CommandText, 103> command_texts{{
     {"Increase Font Size", "Makes the font of the selected cells one step larger.", "", "Font and Text", "FontsAndText"},  // 53
     {"Decrease Font Size", "Makes the font of the selected cells one step smaller.", "", "Font and Text", "FontsAndText"},  // 54
     {"Error Trap", "Wraps the selected formulas in a test that shows the error text of the user settings; a second press unwraps them.", "Ctrl+Shift+W", "Formulas", "ErrorTrap"},  // 55
-    {"Toggle Strikethrough", "Strikes the text of the selected cells through, or clears the line.", "", "Font and Text", "FontsAndText"},  // 56
+    {"Clear Formats", "Clears every format of the selected cells, and keeps what they hold.", "Ctrl+Shift+Delete", "Font and Text", "FontsAndText"},  // 56
     {"Separator Line", "Turns the selected cells into a thin row of dashes, or back into empty cells.", "", "Font and Text", "Separator"},  // 57
     {"Left Indent SmartCycle", "Steps the selection through the indent levels at the left.", "Ctrl+Shift+J", "Indents and Sizes", "SizeCycles"},  // 58
     {"Row Height SmartCycle", "Steps the selected rows through the row heights of the user settings.", "", "Indents and Sizes", "SizeCycles"},  // 59
@@ -95,7 +95,7 @@ const std::array<CommandText, 103> command_texts{{
     {"Left Border", "Draws a border at the left of the selection, or clears it.", "Ctrl+Alt+Shift+Left", "Borders", "Borders"},  // 82
     {"Right Border", "Draws a border at the right of the selection, or clears it.", "Ctrl+Alt+Shift+Right", "Borders", "Borders"},  // 83
     {"Outline Border", "Draws a border around the selection.", "", "Borders", "Borders"},  // 84
-    {"Grid Borders", "Draws borders around every cell of the selection.", "", "Borders", "Borders"},  // 85
+    {"Grid Borders", "Draws borders between the cells of the selection.", "", "Borders", "Borders"},  // 85
     {"Remove Borders", "Clears every border of the selection.", "", "Borders", "Borders"},  // 86
     {"Zoom In", "Enlarges the active window by the zoom interval of the user settings, up to 400 per cent.", "Ctrl+Alt+=", "View", "View"},  // 87
     {"Zoom Out", "Reduces the active window by the zoom interval of the user settings, down to 10 per cent.", "Ctrl+Alt+-", "View", "View"},  // 88
@@ -104,8 +104,8 @@ const std::array<CommandText, 103> command_texts{{
     {"First Worksheet", "Goes to the first visible worksheet.", "Ctrl+Alt+Home", "Worksheets", "Worksheets"},  // 91
     {"Last Worksheet", "Goes to the last visible worksheet.", "Ctrl+Alt+End", "Worksheets", "Worksheets"},  // 92
     {"AutoColor Workbook", "Colors the cells of every worksheet by what they hold: inputs, formulas and links.", "", "AutoColor", "AutoColor"},  // 93
-    {"Clear Formats", "Clears the formats of the selected cells and keeps what they hold.", "Ctrl+Shift+Delete", "Font and Text", "FontsAndText"},  // 94
-    {"Toggle Shrink to Fit", "Shrinks the text of the selected cells to their width, or shows it at full size.", "", "Font and Text", "FontsAndText"},  // 95
+    {"Scale Down by Thousands", "Shows the selected numbers in thousands, millions or billions: one step smaller, the values unchanged.", "", "Decimal Adjustment", "Decimals"},  // 94
+    {"Scale Up by Thousands", "Shows the selected numbers one step of thousands larger, up to their full size.", "", "Decimal Adjustment", "Decimals"},  // 95
     {"Toggle Wrap Text", "Wraps the text of the selected cells, or unwraps it.", "", "Font and Text", "FontsAndText"},  // 96
     {"Right Indent SmartCycle", "Steps the selection through the indent levels at the right.", "", "Indents and Sizes", "SizeCycles"},  // 97
     {"Toggle Gridlines", "Shows or hides the gridlines of the active window.", "Ctrl+Shift+G", "View", "View"},  // 98

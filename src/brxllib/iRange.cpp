@@ -1,8 +1,8 @@
 #include "brxllib/iRange.h"
 
 #include "brxllib/ContentKind.h"
+#include "brxllib/FormatParts.h"
 #include "brxllib/Links.h"
-#include "brxllib/NumberFormatParts.h"
 #include "excel/Worksheet.h"
 
 namespace kestrune::brxllib {
@@ -38,23 +38,36 @@ Value iRange::dependents(const ObjectRef& cell) const {
     return array_of(brxllib::dependents(library_->application, excel::Range(cell)));
 }
 
-Value iRange::number_formats(const ObjectRef& object) const {
-    const auto parts = number_format_parts(excel::Range(object));
+namespace {
+
+Value parts_of(const ObjectRef& object, FormatReader read) {
+    const auto parts = format_parts(excel::Range(object), read);
     if (parts.empty()) return {};
     Array answer(Array::Bound{1, static_cast<std::int32_t>(parts.size())}, Array::Bound{1, 2});
     auto element = answer.elements().begin();
-    for (const auto& [address, code] : parts) {
+    for (const auto& [address, value] : parts) {
         *element++ = address;
-        *element++ = code;
+        *element++ = value;
     }
     return answer;
+}
+
+}  // namespace
+
+Value iRange::number_formats(const ObjectRef& range) const {
+    return parts_of(range, [](const excel::Range& cells) { return cells.NumberFormat(); });
+}
+
+Value iRange::font_sizes(const ObjectRef& range) const {
+    return parts_of(range, [](const excel::Range& cells) { return cells.Font().Size(); });
 }
 
 const MemberTable& iRange::members() {
     static constexpr auto rows = automation::member_rows(
         method<&iRange::content_kind>("ContentKind", 1, "Range"), method<&iRange::in_use>("InUse", 2, "Range"),
         method<&iRange::precedents>("Precedents", 3, "Cell"), method<&iRange::dependents>("Dependents", 4, "Cell"),
-        method<&iRange::number_formats>("NumberFormats", 5, "Range"));
+        method<&iRange::number_formats>("NumberFormats", 5, "Range"),
+        method<&iRange::font_sizes>("FontSizes", 6, "Range"));
     static constexpr MemberTable table("iRange", rows);
     return table;
 }

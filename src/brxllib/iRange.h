@@ -24,9 +24,10 @@ class iRange : public automation::Served<iRange> {
     [[nodiscard]] automation::Value precedents(const automation::ObjectRef& cell) const;
     [[nodiscard]] automation::Value dependents(const automation::ObjectRef& cell) const;
 
-    // What cells of a range have which number format: rows of an address on the range's sheet and the format; see
-    // NumberFormatParts.h.
+    // What cells of a range have which number format, and which font size in points: rows of an address on the range's
+    // sheet and the format or size; see FormatParts.h. Empty when there are none.
     [[nodiscard]] automation::Value number_formats(const automation::ObjectRef& range) const;
+    [[nodiscard]] automation::Value font_sizes(const automation::ObjectRef& range) const;
 
     std::shared_ptr<Library> library_;
 };

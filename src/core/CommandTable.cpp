@@ -5,7 +5,10 @@
 #include "automation/Conversion.h"
 #include "automation/ResumeNext.h"
 #include "core/WindowCommands.h"
+#include "excel/Constants.h"
 #include "settings/AutoColorCommands.h"
+#include "styles/commands/BorderCommands.h"
+#include "styles/commands/FontAndTextCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
@@ -97,10 +100,10 @@ constexpr std::array<Command, 103> table{{
     {50, later, parameter, formats},  // My Color SmartCycle 5
     {51, later, plain, formats},  // Add Decimal Place
     {52, later, plain, formats},  // Remove Decimal Place
-    {53, later, plain, formats},  // Increase Font Size
-    {54, later, plain, formats},  // Decrease Font Size
+    {53, &styles::increase_font_size, plain, formats},  // Increase Font Size
+    {54, &styles::decrease_font_size, plain, formats},  // Decrease Font Size
     {55, later, plain, contents},  // Error Trap
-    {56, later, plain, formats},  // Toggle Strikethrough
+    {56, &styles::clear_formats, plain, unmerged},  // Clear Formats
     {57, later, plain, separators},  // Separator Line
     {58, later, parameter, formats},  // Left Indent SmartCycle
     {59, later, parameter, row_sizes},  // Row Height SmartCycle
@@ -124,13 +127,13 @@ constexpr std::array<Command, 103> table{{
     {77, later, plain, row_sizes},  // Unhide Rows
     {78, later, plain, column_sizes},  // Unhide Columns
     {79, later, plain, outline},  // Toggle Outline Levels
-    {80, later, plain, formats},  // Top Border
-    {81, later, plain, formats},  // Bottom Border
-    {82, later, plain, formats},  // Left Border
-    {83, later, plain, formats},  // Right Border
-    {84, later, plain, formats},  // Outline Border
-    {85, later, plain, formats},  // Grid Borders
-    {86, later, plain, formats},  // Remove Borders
+    {80, &styles::toggle_edge_command<excel::xlEdgeTop>, plain, formats},  // Top Border
+    {81, &styles::toggle_edge_command<excel::xlEdgeBottom>, plain, formats},  // Bottom Border
+    {82, &styles::toggle_edge_command<excel::xlEdgeLeft>, plain, formats},  // Left Border
+    {83, &styles::toggle_edge_command<excel::xlEdgeRight>, plain, formats},  // Right Border
+    {84, &styles::draw_outline, plain, formats},  // Outline Border
+    {85, &styles::draw_inside_grid, plain, formats},  // Grid Borders
+    {86, &styles::remove_borders, plain, formats},  // Remove Borders
     {87, zoom_in, plain, nothing},  // Zoom In
     {88, zoom_out, plain, nothing},  // Zoom Out
     {89, toggle_window_size, plain, nothing},  // Toggle Window Size
@@ -138,9 +141,9 @@ constexpr std::array<Command, 103> table{{
     {91, later, plain, nothing},  // First Worksheet
     {92, later, plain, nothing},  // Last Worksheet
     {93, &settings::auto_color_workbook, plain, book_formats},  // AutoColor Workbook
-    {94, later, plain, restyled},  // Clear Formats
-    {95, later, plain, formats},  // Toggle Shrink to Fit
-    {96, later, plain, formats},  // Toggle Wrap Text
+    {94, later, plain, formats},  // Scale Down by Thousands
+    {95, later, plain, formats},  // Scale Up by Thousands
+    {96, &styles::toggle_wrap_text, plain, formats},  // Toggle Wrap Text
     {97, later, parameter, formats},  // Right Indent SmartCycle
     {98, toggle_gridlines, plain, nothing},  // Toggle Gridlines
     {99, place_window, parameter, nothing},  // Place Window

@@ -25,6 +25,7 @@ class Range : public Facade<Range> {
         {"Areas", Access::get},
         {"Borders", Access::get},
         {"Cells", Access::get},
+        {"ClearFormats", Access::method},
         {"Column", Access::get},
         {"ColumnWidth", Access::get_put},
         {"Columns", Access::get},
@@ -83,6 +84,8 @@ class Range : public Facade<Range> {
     [[nodiscard]] Range Cells() const { return get<Range>("Cells"); }
     // One cell, counted from 1 from the top-left cell of the first area.
     [[nodiscard]] Range Cells(std::int32_t row, std::int32_t column) const { return Cells().Item(row, column); }
+    // Formats, conditional ones and merges; what the cells hold stays.
+    void ClearFormats() const { call("ClearFormats"); }
     [[nodiscard]] std::int32_t Column() const { return get<std::int32_t>("Column"); }  // from 1
     [[nodiscard]] excel::Value ColumnWidth() const { return get("ColumnWidth"); }      // characters of the Normal font
     void ColumnWidth(excel::Value value) const { put("ColumnWidth", std::move(value)); }

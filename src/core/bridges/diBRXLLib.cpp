@@ -80,6 +80,18 @@ std::vector<NumberFormatPart> diBRXLLib::number_formats(const ObjectRef& range) 
     return parts;
 }
 
+std::vector<FontSizePart> diBRXLLib::font_sizes(const ObjectRef& range) const {
+    const automation::Value answer = call(Range, "FontSizes", {range});
+    std::vector<FontSizePart> parts;
+    if (const automation::Array* array = answer.array()) {
+        const auto& cells = array->elements();
+        for (std::size_t i = 0; i + 1 < cells.size(); i += 2) {
+            parts.push_back({automation::to_text(cells[i]), automation::to_double(cells[i + 1])});
+        }
+    }
+    return parts;
+}
+
 std::vector<CellLink> diBRXLLib::precedents(const ObjectRef& cell) const {
     return links_of(call(Range, "Precedents", {cell}));
 }

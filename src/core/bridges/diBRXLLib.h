@@ -32,6 +32,12 @@ struct NumberFormatPart {
     std::string format;
 };
 
+// Cells of one font size.
+struct FontSizePart {
+    std::string address;  // as above
+    double points = 0;
+};
+
 // What a new button is to be like.
 struct ButtonDesign {
     std::string caption;
@@ -80,6 +86,9 @@ class diBRXLLib : public LibraryBridge {
 
     // Parts of a range, each of one number format, that together are the whole; few for each distinct format.
     [[nodiscard]] std::vector<NumberFormatPart> number_formats(const automation::ObjectRef& range) const;
+
+    // The same by font size. Cells whose characters differ in size are in no part.
+    [[nodiscard]] std::vector<FontSizePart> font_sizes(const automation::ObjectRef& range) const;
 
     // The cells that a cell's formula refers to, in the order of its text.
     [[nodiscard]] std::vector<CellLink> precedents(const automation::ObjectRef& cell) const;

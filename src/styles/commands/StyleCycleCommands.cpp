@@ -1,7 +1,9 @@
 #include "styles/commands/StyleCycleCommands.h"
 
+#include <optional>
+
 #include "automation/ResumeNext.h"
-#include "excel/Application.h"
+#include "core/bridges/Selection.h"
 #include "excel/Constants.h"
 #include "settings/cUserSettings.h"
 
@@ -11,9 +13,6 @@ namespace {
 using automation::ResumeNext;
 using automation::Value;
 using settings::StyleCycle;
-
-// From here on redrawing after every call would be seen.
-constexpr double cells_redrawn_at_once = 9;
 
 constexpr std::int32_t red = 0x0000FF;
 
@@ -48,23 +47,18 @@ bool pauses_redrawing(StyleCycle cycle) {
 
 void apply_style_cycle(core::SharedState& shared, StyleCycle cycle, std::int32_t position) {
     const ResumeNext attempt(shared.trace);
-    const excel::Application application(shared.application);
-    automation::ObjectRef selected;
-    attempt.assign(selected, [&] { return application.Selection(); });
-    if (!excel::Range::is(selected)) return;
-    const excel::Range selection(selected);
+    const excel::Range selection = core::selected_range(shared);
+    if (!selection) return;
 
     if (cycle == StyleCycle::CenterStyleToggle) attempt([&] { selection.MergeCells(false); });
-    bool paused = false;
-    if (pauses_redrawing(cycle)) {
-        attempt.assign(paused, [&] { return selection.Cells().CountLarge() > cells_redrawn_at_once; });
+    {
+        std::optional<core::RedrawingPause> pause;
+        if (pauses_redrawing(cycle)) pause.emplace(shared, selection);
+        attempt([&] {
+            const StyleToggleRef& toggle = shared.settings().cycle(cycle);
+            if (toggle) toggle->Apply(shared, selection, position);
+        });
     }
-    if (paused) attempt([&] { application.ScreenUpdating(false); });
-    attempt([&] {
-        const StyleToggleRef& toggle = shared.settings().cycle(cycle);
-        if (toggle) toggle->Apply(shared, selection, position);
-    });
-    if (paused) attempt([&] { application.ScreenUpdating(true); });
 
     excel::FormatConditions conditions;
     attempt.assign(conditions, [&] { return selection.FormatConditions(); });
