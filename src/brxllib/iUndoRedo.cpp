@@ -47,7 +47,9 @@ bool iUndoRedo::begin_step(const std::string& name, std::int32_t reach, std::int
     if (reach < 0 || reach > static_cast<std::int32_t>(undo::Reach::Workbook)) {
         wrong("iUndoRedo.BeginStep", "a reach is 0 to 3");
     }
-    return undo::Recorder(*library_).begin(name, static_cast<undo::Reach>(reach), undo::Aspects::of_bits(aspects));
+    constexpr std::int32_t number_formats = 128;
+    return undo::Recorder(*library_).begin(name, static_cast<undo::Reach>(reach), undo::Aspects::of_bits(aspects),
+                                           (aspects & number_formats) != 0);
 }
 
 bool iUndoRedo::record(const automation::ObjectRef& range, std::int32_t aspects) {

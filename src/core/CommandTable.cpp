@@ -44,6 +44,7 @@ constexpr Touches outline{Reach::Sheet, Aspects::Rows | Aspects::Columns};
 constexpr Touches sheet_formats{Reach::Sheet, Aspects::Formats};
 constexpr Touches book_formats{Reach::Workbook, Aspects::Formats};
 constexpr Touches names{Reach::Sheet, Aspects::Names};
+constexpr Touches number_formats{Reach::Workbook, Aspects::NumberFormats};
 
 // clang-format off
 constexpr std::array<Command, 103> table{{
@@ -147,7 +148,7 @@ constexpr std::array<Command, 103> table{{
     {97, later, parameter, formats},  // Right Indent SmartCycle
     {98, toggle_gridlines, plain, nothing},  // Toggle Gridlines
     {99, place_window, parameter, nothing},  // Place Window
-    {100, later, plain, recorded},  // Remove Unused Number Formats
+    {100, later, plain, number_formats},  // Remove Unused Number Formats
     {101, later, plain, names},  // Remove Invalid Range Names
     {102, &settings::auto_color_worksheet, plain, sheet_formats},  // AutoColor Worksheet
 }};

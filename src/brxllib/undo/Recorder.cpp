@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "automation/AutomationError.h"
+#include "automation/ResumeNext.h"
 #include "brxllib/undo/CellsChange.h"
+#include "brxllib/undo/NumberFormatsChange.h"
 #include "excel/Constants.h"
 #include "excel/Workbook.h"
 #include "excel/Worksheet.h"
@@ -61,13 +63,21 @@ Recorder::Target Recorder::target_of(Reach reach) const {
     return target;
 }
 
-bool Recorder::begin(std::string name, Reach reach, Aspects aspects) {
+bool Recorder::begin(std::string name, Reach reach, Aspects aspects, bool number_formats) {
     library_.undo.begin(std::move(name));
     bool wanted = false;
     try {
         const Target target = target_of(reach);
-        if (library_.undo.open()->place.empty()) library_.undo.open()->place = target.place;
+        Step& step = *library_.undo.open();
+        if (step.place.empty()) {
+            step.place = target.place;
+            if (reach == Reach::Selection && !target.ranges.empty()) step.cells = target.ranges.front();
+        }
         wanted = record_all(target, aspects);
+        if (number_formats && library_.around.formats) {
+            library_.undo.add(
+                std::make_unique<NumberFormatsChange>(library_.application.ActiveWorkbook(), *library_.around.formats));
+        }
     } catch (const AutomationError& error) {
         wanted = give_up(error.description());
     }
@@ -79,7 +89,11 @@ bool Recorder::set_point() {
     const Target target = target_of(Reach::Selection);
     if (target.ranges.empty()) return false;
     library_.undo.begin_point("Changes");
-    if (library_.undo.open()->place.empty()) library_.undo.open()->place = target.place;
+    Step& step = *library_.undo.open();
+    if (step.place.empty()) {
+        step.place = target.place;
+        step.cells = target.ranges.front();
+    }
     if (record_all(target, Aspects::all())) return true;
     library_.undo.cancel();
     return false;
@@ -136,7 +150,16 @@ bool Recorder::give_up(std::string_view why) {
 
 bool Recorder::tell(const Outcome& outcome, std::string_view what) const {
     using Kind = Outcome::Kind;
-    if (outcome.kind == Kind::Done) return true;
+    if (outcome.kind == Kind::Done) {
+        // As Excel's own undo shows what it did. A hidden sheet stays where it is.
+        const automation::ResumeNext attempt(library_.trace);
+        attempt([&] {
+            if (outcome.cells && outcome.cells.Worksheet().Visible() == excel::xlSheetVisible) {
+                library_.application.Goto(outcome.cells);
+            }
+        });
+        return true;
+    }
     if (outcome.kind == Kind::Nothing || outcome.description.empty()) return false;
     const std::string_view cannot = outcome.kind == Kind::Withdrawn ? "can no longer be" : "cannot be";
     const std::string line = fmt::format("{} {} {}: {}.", outcome.description, cannot, what, outcome.why);

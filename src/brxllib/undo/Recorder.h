@@ -17,9 +17,10 @@ class Recorder {
     // The library outlives the recorder.
     explicit Recorder(Library& library) : library_(library) {}
 
-    // Opens a step of this name and records the cells that it reaches. False when the person was asked and does not
-    // want it: then there is no step, and the command must not run.
-    bool begin(std::string name, Reach reach, Aspects aspects);
+    // Opens a step of this name and records the cells that it reaches. number_formats: with the workbook's list of
+    // custom number formats. False when the person was asked and does not want it: then there is no step, and the
+    // command must not run.
+    bool begin(std::string name, Reach reach, Aspects aspects, bool number_formats = false);
     // Records cells that the open step changes besides. False as above; the step stays open with what it has on record,
     // and what is not done yet must not be done.
     bool record(const excel::Range& cells, Aspects aspects);
@@ -33,7 +34,8 @@ class Recorder {
     // person ("the rows hold charts"). Without somebody to ask, the answer is no.
     bool give_up(std::string_view why);
 
-    // Take the last step back, or do it again; whether that went. One message tells what stands in the way.
+    // Take the last step back, or do it again; whether that went. A step of a selection selects its cells. One message
+    // tells what stands in the way.
     bool undo() { return tell(library_.undo.undo(), "undone"); }
     bool redo() { return tell(library_.undo.redo(), "redone"); }
 

@@ -152,7 +152,7 @@ Outcome Stack::move(Direction direction) {
     }
     to.push_back(std::move(from.back()));
     from.pop_back();
-    return {Kind::Done, to.back().description(), {}};
+    return {Kind::Done, to.back().description(), {}, to.back().cells};
 }
 
 std::vector<std::string> Stack::descriptions(const Steps& steps) {

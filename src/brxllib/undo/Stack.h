@@ -28,6 +28,7 @@ struct Outcome {
     Kind kind = Kind::Nothing;
     std::string description{};  // of the step
     std::string why{};          // it did not go: a clause for a person
+    excel::Range cells{};       // of the step, if they were the selection
 };
 
 // The steps that can be undone, and those undone that can be done again.

@@ -134,7 +134,7 @@ class Session {
         const std::int64_t calls = book.session().calls() - before;
         if (std::holds_alternative<SelectStep>(step)) {
             what = fmt::format("selected {}", selection_text(book));
-        } else if (book.model().active_sheet != looked_at) {
+        } else if (!std::holds_alternative<HistoryStep>(step) && book.model().active_sheet != looked_at) {
             moved_ = true;
         }
         tell_refusals(text);

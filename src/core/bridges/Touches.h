@@ -11,9 +11,10 @@ enum class Aspects : std::int32_t {
     Formats = 2,     // of cells
     Conditions = 4,  // conditional formats
     Merges = 8,
-    Rows = 16,     // heights, hidden or shown, outline levels
-    Columns = 32,  // the same of columns
-    Names = 64,    // the workbook's defined names
+    Rows = 16,            // heights, hidden or shown, outline levels
+    Columns = 32,         // the same of columns
+    Names = 64,           // the workbook's defined names
+    NumberFormats = 128,  // custom number formats that nothing shows
 };
 constexpr Aspects operator|(Aspects one, Aspects other) {
     return static_cast<Aspects>(static_cast<std::int32_t>(one) | static_cast<std::int32_t>(other));
