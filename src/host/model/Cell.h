@@ -36,6 +36,8 @@ enum class CellError : std::int32_t {
 struct Cell {
     static constexpr std::uint8_t content_changed = 1;  // value or formula differ from the file: written anew
     static constexpr std::uint8_t has_metadata = 2;     // the file gives it cm or vm (dynamic arrays, rich values)
+    static constexpr std::uint8_t formula_moved = 4;    // its formula follows cells that moved; the rest is the file's
+    static constexpr std::uint8_t unshared = 8;         // with formula_moved: no longer one with its group in the file
 
     union {
         double number = 0;

@@ -36,6 +36,45 @@ void ColumnRuns::finish_loading() {
     std::erase_if(runs_, [](const ColumnRun& run) { return run.first > run.last; });
 }
 
+void ColumnRuns::insert(std::int32_t first, std::int32_t count) {
+    std::vector<ColumnRun> moved;
+    moved.reserve(runs_.size() + 1);
+    for (ColumnRun run : runs_) {
+        if (run.first < first && run.last >= first) {
+            ColumnRun before = run;
+            before.last = first - 1;
+            moved.push_back(before);
+            run.first = first;
+        }
+        if (run.first >= first) {
+            run.first += count;
+            run.last = std::min(run.last + count, formula::max_columns);
+        }
+        if (run.first <= formula::max_columns) moved.push_back(run);
+    }
+    runs_ = std::move(moved);
+    changed = true;
+}
+
+void ColumnRuns::erase(std::int32_t first, std::int32_t count) {
+    const std::int32_t stop = first + count;
+    std::vector<ColumnRun> left;
+    left.reserve(runs_.size());
+    for (ColumnRun run : runs_) {
+        // The last columns of the sheet look like those before them, as the new ones at its end do.
+        const bool to_the_end = run.last == formula::max_columns;
+        if (run.first >= first) run.first = run.first < stop ? first : run.first - count;
+        if (!to_the_end && run.last >= first) run.last = run.last < stop ? first - 1 : run.last - count;
+        if (run.first > run.last) continue;
+        if (!left.empty() && left.back().last + 1 == run.first && left.back().same_format(run))
+            left.back().last = run.last;
+        else
+            left.push_back(run);
+    }
+    runs_ = std::move(left);
+    changed = true;
+}
+
 void ColumnRuns::replace(const std::vector<ColumnRun>& runs) {
     const std::int32_t first = runs.front().first;
     const std::int32_t last = runs.back().last;

@@ -60,6 +60,9 @@ class ColumnRuns {
     // Visits the runs that make up first..last, gaps as plain runs, cut to these bounds.
     template <class Visit>
     void visit(std::int32_t first, std::int32_t last, Visit&& visit_run) const;
+    // Inserts plain columns before a column, or takes columns away; what stands behind moves.
+    void insert(std::int32_t first, std::int32_t count);
+    void erase(std::int32_t first, std::int32_t count);
     void load(ColumnRun run) { runs_.push_back(run); }  // as the file lists them
     void finish_loading();  // sorts, and lets the first of overlapping runs win, as damaged files have them
 

@@ -204,8 +204,8 @@ void Sheet::visit_cells(const Area& area, bool by_rows, const std::function<void
 }
 
 bool Sheet::changed() const {
-    return cells_changed || rows_changed || columns_.changed || merges_changed || conditional_formats_changed ||
-           defaults_.changed || view_.changed;
+    return moved || cells_changed || rows_changed || columns_.changed || merges_changed ||
+           conditional_formats_changed || defaults_.changed || view_.changed;
 }
 
 }  // namespace kestrune::host

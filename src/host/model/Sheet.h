@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formula/Edit.h"
 #include "host/model/Cell.h"
 #include "host/model/ConditionalFormat.h"
 #include "host/model/Hyperlink.h"
@@ -180,6 +181,16 @@ class Sheet {
     // Read from the file and only read: saving keeps them as they stand there.
     [[nodiscard]] std::vector<Hyperlink>& hyperlinks() { return ensure_loaded(), hyperlinks_; }
 
+    // Whole rows or columns that come and go; Workbook::apply calls these for its sheets, in this order.
+    // ModelError when the edit would cut an array in two or push something off the sheet.
+    void require_movable(const formula::Edit& edit);
+    // Formulas and rules of this sheet follow the cells of the edited one, which may be this. Whether any did.
+    bool follow(const formula::Edit& edit);
+    // The cells of this sheet, its rows, columns and whatever lies on them move. New rows look like the one above, or
+    // below, new columns like the one at their left, or right; the first ones, with nothing before them, are plain.
+    void move_cells(const formula::Edit& edit, bool like_behind);
+    bool moved = false;  // some of its cells stand elsewhere than in the file
+
     [[nodiscard]] SheetView& view() { return ensure_loaded(), view_; }
     [[nodiscard]] SheetProtection& protection() { return ensure_loaded(), protection_; }
 
@@ -206,6 +217,12 @@ class Sheet {
     [[nodiscard]] bool array_is_live(std::uint32_t index) const;
     void before_overwriting(const Cell& cell, Position at);
     void make_blank(Cell& cell);
+    bool follow_in_cells(const formula::Edit& edit, bool own);
+    bool follow_in_rules(const formula::Edit& edit, bool own);
+    void move_rows(const formula::Edit& edit, bool like_behind);
+    void move_columns(const formula::Edit& edit, bool like_behind);
+    void move_lying(const formula::Edit& edit);
+    void blank_spills(const formula::Edit& edit);
     [[nodiscard]] bool holds(const Cell& cell, const CellContent& content);
     void value_changed();
     // The rows that have a style, ascending; quick to ask however many rows have a height of their own.

@@ -65,6 +65,9 @@ class Workbook {
     std::function<FormatsElsewhere()> formats_elsewhere;
     std::function<std::vector<Table>()> read_tables;
     std::function<std::vector<std::string>()> read_external_links;
+    // Asked before rows or columns come or go: fails with ModelError when something of the file cannot follow, and
+    // gives back what makes it follow.
+    std::function<std::function<void()>(const formula::Edit&)> prepare_edit;
     std::vector<DefinedName> names;
     bool names_changed = false;
     bool date1904 = false;
@@ -77,6 +80,16 @@ class Workbook {
     Sheet& add_sheet(std::string sheet_name, SheetKind kind = SheetKind::Worksheet);
     // At a 0-based position, up to the number of sheets; names and the active sheet stay with theirs.
     Sheet& insert_sheet(std::int32_t position, std::string sheet_name);
+    // Inserts whole rows or columns, or deletes them, with everything in the workbook that depends on where cells are.
+    // ModelError, before anything changes, when a part of the workbook cannot follow.
+    void apply(const formula::Edit& edit, bool like_behind = false);
+    // The same without doing it.
+    void require_applicable(const formula::Edit& edit);
+    // Formulas and names of this workbook follow the cells of another one; edit.books tells how they call it. Sheets
+    // that nobody has read yet are read when `all`. Whether any did.
+    bool follow_elsewhere(const formula::Edit& edit, bool all);
+    // What has been inserted and deleted since the file was read, for parts that follow when they are written.
+    [[nodiscard]] const std::vector<formula::Edit>& edits() const { return edits_; }
     // The tables of all sheets, read once.
     [[nodiscard]] const std::vector<Table>& tables();
     [[nodiscard]] Sheet* sheet(std::string_view sheet_name) const;  // whatever its case; null when there is none
@@ -91,8 +104,11 @@ class Workbook {
     [[nodiscard]] std::int32_t digit_pixels() const;
 
   private:
+    bool names_follow(const formula::Edit& edit);
+
     std::vector<std::unique_ptr<Sheet>> sheets_;
     std::optional<std::vector<Table>> tables_;
+    std::vector<formula::Edit> edits_;
 };
 
 }  // namespace kestrune::host

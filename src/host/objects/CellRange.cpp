@@ -14,8 +14,22 @@ constexpr std::uint32_t most_formats = 65'490;
 
 }  // namespace
 
+void CellRange::present() const {
+    if (areas_.empty()) {
+        throw automation::AutomationError(automation::hresult::object_required, "Range", "the cells have been deleted");
+    }
+}
+
+void CellRange::follow(HostSession& session, const Sheet& sheet, const formula::Edit& edit) {
+    const HeldRange& ring = session.held_ranges;
+    for (HeldRange* held = ring.next(); held != &ring; held = held->next()) {
+        auto& range = static_cast<CellRange&>(*held);
+        if (range.sheet_ == &sheet) range.areas_ = formula::adjust_areas(range.areas_, edit);
+    }
+}
+
 std::vector<StyleId> CellRange::formats() const {
-    std::vector<StyleId> distinct = sheet_->styles_in(areas_.front());
+    std::vector<StyleId> distinct = sheet_->styles_in(first());
     for (std::size_t i = 1; i < areas_.size(); ++i) {
         for (const StyleId id : sheet_->styles_in(areas_[i])) {
             if (std::ranges::find(distinct, id) == distinct.end()) distinct.push_back(id);
@@ -27,7 +41,7 @@ std::vector<StyleId> CellRange::formats() const {
 void CellRange::restyle(std::string_view member, const std::function<StyleId(StyleId)>& map) const {
     require_format_allowed(member);
     if (styles().formats.size() >= most_formats) refuse(member, "the workbook has too many different cell formats");
-    for (const Area& area : areas_) sheet_->restyle(area, map);
+    for (const Area& area : areas()) sheet_->restyle(area, map);
     changed();
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "automation/Value.h"
+#include "formula/Edit.h"
 #include "host/model/Workbook.h"
 #include "host/objects/HostSession.h"
 
@@ -14,17 +15,21 @@ namespace kestrune::host {
 
 // The cells that a served object stands for: areas of one sheet. Reads formats over all areas and
 // changes them, both once for every distinct format, however many cells there are.
-class CellRange {
+class CellRange : private HeldRange {
   public:
     CellRange(HostSession& session, Sheet& sheet, std::vector<Area> areas)
-        : session_(&session), sheet_(&sheet), areas_(std::move(areas)) {}
+        : HeldRange(session.held_ranges), session_(&session), sheet_(&sheet), areas_(std::move(areas)) {}
 
     [[nodiscard]] HostSession& session() const { return *session_; }
     [[nodiscard]] Sheet& sheet() const { return *sheet_; }
     [[nodiscard]] Workbook& workbook() const { return sheet_->workbook(); }
     [[nodiscard]] StyleTable& styles() const { return sheet_->workbook().styles; }
-    [[nodiscard]] const std::vector<Area>& areas() const { return areas_; }
-    [[nodiscard]] const Area& first() const { return areas_.front(); }
+    // Error 424 once all its cells have been deleted.
+    [[nodiscard]] const std::vector<Area>& areas() const { return present(), areas_; }
+    [[nodiscard]] const Area& first() const { return present(), areas_.front(); }
+
+    // Rows or columns of a sheet have come or gone: every range of the session that somebody holds there follows.
+    static void follow(HostSession& session, const Sheet& sheet, const formula::Edit& edit);
 
     // The distinct formats of all areas, that of the first cell first.
     [[nodiscard]] std::vector<StyleId> formats() const;
@@ -54,6 +59,8 @@ class CellRange {
     void content_changed() const;
 
   private:
+    void present() const;
+
     HostSession* session_;
     Sheet* sheet_;
     std::vector<Area> areas_;

@@ -10,6 +10,13 @@ inline constexpr std::int32_t xlNone = -4142;
 
 inline constexpr std::int32_t xlWBATWorksheet = -4167;
 
+inline constexpr std::int32_t xlShiftDown = -4121;
+inline constexpr std::int32_t xlShiftToRight = -4161;
+inline constexpr std::int32_t xlShiftUp = -4162;
+inline constexpr std::int32_t xlShiftToLeft = -4159;
+inline constexpr std::int32_t xlFormatFromLeftOrAbove = 0;
+inline constexpr std::int32_t xlFormatFromRightOrBelow = 1;
+
 inline constexpr std::int32_t xlA1 = 1;
 inline constexpr std::int32_t xlR1C1 = -4150;
 

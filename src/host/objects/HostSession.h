@@ -12,6 +12,7 @@
 #include "automation/Object.h"
 #include "host/model/Workbook.h"
 #include "host/objects/Constants.h"
+#include "host/objects/HeldRange.h"
 #include "host/objects/Listeners.h"
 #include "host/objects/Macros.h"
 #include "host/objects/WorkbookStore.h"
@@ -117,6 +118,7 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     [[nodiscard]] bool heard() const { return enable_events && listeners_.any(); }
     automation::Arguments raise(std::string_view event, automation::Arguments arguments);
 
+    HeldRange held_ranges;  // the ring of all ranges that somebody holds
     Macros macros;
     std::optional<WaitingMacro> on_undo;
     std::optional<WaitingMacro> on_repeat;

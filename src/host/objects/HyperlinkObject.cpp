@@ -5,14 +5,11 @@
 
 namespace kestrune::host {
 
-ObjectRef HyperlinkObject::range() const {
-    return std::make_shared<RangeObject>(CellRange(session(), sheet_, {link_.area}));
-}
+ObjectRef HyperlinkObject::range() const { return std::make_shared<RangeObject>(cells_); }
 
 std::string HyperlinkObject::text_to_display() const {
-    const CellRange cells(session(), sheet_, {link_.area});
-    const Cell* cell = sheet_.find(link_.area.top_left());
-    return cell ? CellReader(cells).text(*cell) : std::string();
+    const Cell* cell = cells_.sheet().find(cells_.first().top_left());
+    return cell ? CellReader(cells_).text(*cell) : std::string();
 }
 
 std::string HyperlinkObject::name() const { return link_.address.empty() ? link_.sub_address : link_.address; }

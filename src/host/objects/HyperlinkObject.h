@@ -15,7 +15,7 @@ class HyperlinkObject final : public HostObject<HyperlinkObject> {
     static const MemberTable& members();
 
     HyperlinkObject(HostSession& session, Sheet& sheet, const Hyperlink& link)
-        : HostObject(session), sheet_(sheet), link_(link) {}
+        : HostObject(session), cells_(session, sheet, {link.area}), link_(link) {}
 
     [[nodiscard]] ObjectRef range() const;
     [[nodiscard]] std::string address() const { return link_.address; }
@@ -26,8 +26,8 @@ class HyperlinkObject final : public HostObject<HyperlinkObject> {
     [[nodiscard]] std::int32_t type() const { return 0; }  // msoHyperlinkRange: links of shapes are not listed
 
   private:
-    Sheet& sheet_;
-    const Hyperlink& link_;
+    CellRange cells_;
+    Hyperlink link_;
 };
 
 }  // namespace kestrune::host

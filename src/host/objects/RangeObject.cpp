@@ -60,7 +60,8 @@ const MemberTable& RangeObject::members() {
         property<&R::merge_cells, &R::set_merge_cells>("MergeCells", 62), read_only<&R::merge_area>("MergeArea", 63),
         method<&R::merge>("Merge", 64, "[Across]"), method<&R::un_merge>("UnMerge", 65),
         read_only<&R::hyperlinks>("Hyperlinks", 66), method<&R::group>("Group", 67, "[Start], [End], [By], [Periods]"),
-        method<&R::ungroup>("Ungroup", 68), method<&R::special_cells>("SpecialCells", 69, "Type, [Value]"));
+        method<&R::ungroup>("Ungroup", 68), method<&R::special_cells>("SpecialCells", 69, "Type, [Value]"),
+        method<&R::insert>("Insert", 70, "[Shift], [CopyOrigin]"), method<&R::remove>("Delete", 71, "[Shift]"));
     static constexpr MemberTable table("Range", rows);
     return table;
 }

@@ -126,6 +126,11 @@ class RangeObject final : public HostObject<RangeObject> {
     // Whole rows or columns one level deeper or up; error 1004 past the eighth level and where no group is.
     void group(const Value& start, const Value& end, const Value& by, const Value& periods);
     void ungroup();
+    // Whole rows or columns: RangeStructure.cpp. Error 1004 for blocks of cells, areas that overlap, protected sheets,
+    // and whatever could not follow. Answers True.
+    bool insert(const Value& shift, const Value& copy_origin);
+    bool remove(const Value& shift);
+
     [[nodiscard]] Value merge_cells() const;
     void set_merge_cells(bool on);
     [[nodiscard]] ObjectRef merge_area() const;

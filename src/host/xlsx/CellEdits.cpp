@@ -72,7 +72,10 @@ void CellEdits::edit_cells() {
 void CellEdits::edit_cell(Position at, const Cell& cell) {
     const XmlElement element(text_, cell.source - 1);
     edit_style(element, formats_(cell.style));
-    if ((cell.flags & Cell::content_changed) == 0) return;
+    if ((cell.flags & Cell::content_changed) == 0) {
+        if ((cell.flags & Cell::formula_moved) != 0 && cell.formula != 0) edit_formula(element, at, cell);
+        return;
+    }
     const bool had_formula = static_cast<bool>(element.child("f"));
     formulas_changed_ = formulas_changed_ || had_formula || cell.formula != 0;
     const CellXml xml = cell_xml(sheet_, at, cell, element.prefix());
@@ -81,6 +84,37 @@ void CellEdits::edit_cell(Position at, const Cell& cell) {
     edits_.set_attribute(element, "cm", std::nullopt);
     edits_.set_attribute(element, "vm", std::nullopt);
     edits_.set_content(element, xml.content);
+}
+
+// The formula alone: the value stays as the file has it.
+void CellEdits::edit_formula(const XmlElement& element, Position at, const Cell& cell) {
+    const XmlElement child = element.child("f");
+    if (!child) return;
+    formulas_changed_ = true;
+    const Formula& formula = sheet_.formulas()[cell.formula - 1];
+    std::string text = formula.text;
+    if (formula.kind == Formula::Kind::Normal || formula.kind == Formula::Kind::Shared) {
+        const bool shared = child.value("t") == "shared";
+        if (shared && (cell.flags & Cell::unshared) == 0 && formula.anchor == at) {
+            edits_.set_attribute(child, "ref", formula::area_text(formula.reach));
+        } else {
+            for (const std::string_view name : {"t", "ref", "si"})
+                if (shared) edits_.set_attribute(child, name, std::nullopt);
+            text = sheet_.formula_at(at);
+        }
+    } else if (formula.attributes.empty()) {
+        edits_.set_attribute(child, "ref", formula::area_text(formula.reach));
+    } else {
+        const std::string attributes = "<f " + formula.attributes + "/>";
+        const XmlElement wanted = XmlElement::root(attributes);
+        for (auto each = wanted.first_attribute(); each; each = wanted.attribute_after(each))
+            edits_.set_attribute(child, each.name, each.value());
+    }
+    if (child.text() == text) return;
+    if (needs_preserve(text)) edits_.set_attribute(child, "xml:space", "preserve");
+    std::string escaped;
+    append_escaped(escaped, text);
+    edits_.set_content(child, escaped);
 }
 
 void CellEdits::edit_style(const XmlElement& element, StyleId style) {

@@ -33,6 +33,7 @@ class CellEdits {
 
     void edit_cells();
     void edit_cell(Position at, const Cell& cell);
+    void edit_formula(const XmlElement& element, Position at, const Cell& cell);
     void edit_style(const XmlElement& element, StyleId style);
     void remove_lost_cells();
     void add_cell(Position at, const Cell& cell);

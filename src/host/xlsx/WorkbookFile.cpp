@@ -48,9 +48,10 @@ WorkbookFile::WorkbookFile(Package package) : package_(std::move(package)) {
         for (const SheetPart& sheet : sheets_) parts.push_back(sheet.name);
         return read_tables(package_, parts);
     };
+    book_.prepare_edit = [this](const formula::Edit& edit) { return prepare_edit(edit); };
     book_.read_external_links = [this] { return read_external_links(package_, book_.path); };
     const auto main = package_.workbook_part();
-    for (auto& part : read_workbook_part(package_, book_)) sheets_.push_back({std::move(part), {}, false});
+    for (auto& part : read_workbook_part(package_, book_)) sheets_.emplace_back().name = std::move(part);
     active_in_file_ = book_.active_sheet;
     if (const auto theme = related_part(package_, main, "theme"); !theme.empty())
         book_.theme = read_theme(package_, theme);
@@ -88,6 +89,7 @@ void WorkbookFile::load(std::size_t position, Sheet& sheet) {
 
 void WorkbookFile::update() {
     if (failure_) std::rethrow_exception(failure_);
+    for (std::size_t i = 0; i < sheets_.size(); ++i) move_part(i);
     const FileNumbers formats = formats_in_use();
     update_sheets(formats);
     if (book_.active_sheet_changed) update_tabs();
@@ -109,11 +111,12 @@ FileNumbers WorkbookFile::formats_in_use() const {
 }
 
 void WorkbookFile::update_sheets(const FileNumbers& formats) {
-    bool formulas_changed = false;
+    bool formulas_changed = !book_.edits().empty();
     for (std::size_t i = 0; i < sheets_.size(); ++i) {
         Sheet& sheet = *book_.sheets()[i];
-        if (sheet.kind() != SheetKind::Worksheet || !sheet.loaded() || !sheet.changed()) continue;
-        XmlText xml = package_.read_original_xml(sheets_[i].name);
+        if (sheet.kind() != SheetKind::Worksheet || !sheet.loaded()) continue;
+        if (!sheet.changed() && !sheets_[i].base) continue;
+        XmlText xml = base_of(sheets_[i]);
         SheetText written = write_sheet(std::move(xml.text), sheet, sheets_[i].layout, formats);
         formulas_changed = formulas_changed || written.formulas_changed;
         package_.replace(sheets_[i].name, encoded(std::move(written.text), xml.encoding));
@@ -126,8 +129,7 @@ void WorkbookFile::update_tabs() {
     for (std::size_t i = 0; i < sheets_.size(); ++i) {
         const auto position = static_cast<std::int32_t>(i);
         if (position != active_in_file_ && position != book_.active_sheet) continue;
-        XmlText xml =
-            sheets_[i].rewritten ? package_.read_xml(sheets_[i].name) : package_.read_original_xml(sheets_[i].name);
+        XmlText xml = sheets_[i].rewritten ? package_.read_xml(sheets_[i].name) : base_of(sheets_[i]);
         package_.replace(sheets_[i].name,
                          encoded(with_tab_selected(xml.text, position == book_.active_sheet), xml.encoding));
     }

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <exception>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -41,12 +43,21 @@ class WorkbookFile {
         std::string name;
         SheetLayout layout;
         bool rewritten = false;
+        std::optional<XmlText> base;  // what the layout is of, when rows or columns came or went; else what was read
+        std::size_t edits = 0;        // how many of the workbook's edits the base has followed
+        bool movable = false;         // was looked through, and can follow
     };
 
     void load(std::size_t position, Sheet& sheet);
     // The formats that the changed sheets need, under the numbers that they get in the file.
     [[nodiscard]] FileNumbers formats_in_use() const;
     void update_sheets(const FileNumbers& formats);
+    // The sheet's part follows the edits since it was last written.
+    void move_part(std::size_t position);
+    [[nodiscard]] XmlText base_of(const SheetPart& part) const;
+    // ModelError when some part cannot follow an edit; gives back what makes the others follow.
+    [[nodiscard]] std::function<void()> prepare_edit(const formula::Edit& edit);
+    void require_movable(std::size_t position);
     void update_tabs();
     void update_styles(const FileNumbers& formats);
     void drop_calculation_chain();

@@ -54,6 +54,12 @@ std::string write_small_part(const pugi::xml_document& document) {
     if (document.first_child().type() != pugi::node_declaration) {
         writer.text = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\r\n";
     }
+    writer.text += write_xml_fragment(document);
+    return std::move(writer.text);
+}
+
+std::string write_xml_fragment(const pugi::xml_document& document) {
+    TextWriter writer;
     document.save(writer, "", pugi::format_raw | pugi::format_no_declaration, pugi::encoding_utf8);
     return std::move(writer.text);
 }

@@ -13,6 +13,9 @@ pugi::xml_document parse_xml_tree(std::string_view text, const std::string& file
 /// The tree as UTF-8 text, nothing indented, a declaration in front: for Package::replace.
 std::string write_small_part(const pugi::xml_document& document);
 
+/// The same of a piece of a part: without a declaration.
+std::string write_xml_fragment(const pugi::xml_document& document);
+
 /// A name without its namespace prefix: "sheet" for "x:sheet".
 std::string_view local_name(std::string_view name);
 
