@@ -9,6 +9,8 @@
 #include "settings/AutoColorCommands.h"
 #include "styles/commands/BorderCommands.h"
 #include "styles/commands/FontAndTextCommands.h"
+#include "smart/OutlineLevels.h"
+#include "smart/RowColumnCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
@@ -20,6 +22,9 @@ template <StyleCycle field>
 constexpr CommandBody cycle = &styles::style_cycle_command<field>;
 template <StyleCycle field>
 constexpr CommandNaming named = &styles::style_cycle_name<field>;
+
+template <smart::RowColumnCommand command>
+constexpr CommandBody grid = &smart::row_column_command<command>;
 
 constexpr CommandBody later = nullptr;
 constexpr bool plain = false;
@@ -109,25 +114,25 @@ constexpr std::array<Command, 103> table{{
     {58, later, parameter, formats},  // Left Indent SmartCycle
     {59, later, parameter, row_sizes},  // Row Height SmartCycle
     {60, later, parameter, column_sizes},  // Column Width SmartCycle
-    {61, later, plain, row_sizes},  // AutoFit Row Heights
-    {62, later, plain, column_sizes},  // Standard Column Width
-    {63, later, plain, recorded},  // Insert Rows
-    {64, later, plain, recorded},  // Insert Columns
-    {65, later, plain, recorded},  // Delete Rows
-    {66, later, plain, recorded},  // Delete Columns
-    {67, later, plain, row_sizes},  // Group Rows
-    {68, later, plain, column_sizes},  // Group Columns
-    {69, later, plain, row_sizes},  // Ungroup Rows
-    {70, later, plain, column_sizes},  // Ungroup Columns
-    {71, later, plain, all_rows},  // Expand All Row Levels
-    {72, later, plain, all_columns},  // Expand All Column Levels
-    {73, later, plain, all_rows},  // Collapse Row Levels
-    {74, later, plain, all_columns},  // Collapse Column Levels
-    {75, later, plain, row_sizes},  // Hide Rows
-    {76, later, plain, column_sizes},  // Hide Columns
-    {77, later, plain, row_sizes},  // Unhide Rows
-    {78, later, plain, column_sizes},  // Unhide Columns
-    {79, later, plain, outline},  // Toggle Outline Levels
+    {61, grid<smart::RowColumnCommand::AutoFitRows>, plain, row_sizes},  // AutoFit Row Heights
+    {62, grid<smart::RowColumnCommand::ResetColumnWidths>, plain, column_sizes},  // Standard Column Width
+    {63, grid<smart::RowColumnCommand::InsertRows>, plain, recorded},  // Insert Rows
+    {64, grid<smart::RowColumnCommand::InsertColumns>, plain, recorded},  // Insert Columns
+    {65, grid<smart::RowColumnCommand::DeleteRows>, plain, recorded},  // Delete Rows
+    {66, grid<smart::RowColumnCommand::DeleteColumns>, plain, recorded},  // Delete Columns
+    {67, grid<smart::RowColumnCommand::GroupRows>, plain, row_sizes},  // Group Rows
+    {68, grid<smart::RowColumnCommand::GroupColumns>, plain, column_sizes},  // Group Columns
+    {69, grid<smart::RowColumnCommand::UngroupRows>, plain, row_sizes},  // Ungroup Rows
+    {70, grid<smart::RowColumnCommand::UngroupColumns>, plain, column_sizes},  // Ungroup Columns
+    {71, grid<smart::RowColumnCommand::ExpandAllRowLevels>, plain, all_rows},  // Expand All Row Levels
+    {72, grid<smart::RowColumnCommand::ExpandAllColumnLevels>, plain, all_columns},  // Expand All Column Levels
+    {73, grid<smart::RowColumnCommand::CollapseRowLevels>, plain, all_rows},  // Collapse Row Levels
+    {74, grid<smart::RowColumnCommand::CollapseColumnLevels>, plain, all_columns},  // Collapse Column Levels
+    {75, grid<smart::RowColumnCommand::HideRows>, plain, row_sizes},  // Hide Rows
+    {76, grid<smart::RowColumnCommand::HideColumns>, plain, column_sizes},  // Hide Columns
+    {77, grid<smart::RowColumnCommand::UnhideRows>, plain, row_sizes},  // Unhide Rows
+    {78, grid<smart::RowColumnCommand::UnhideColumns>, plain, column_sizes},  // Unhide Columns
+    {79, smart::toggle_outline_levels, plain, outline},  // Toggle Outline Levels
     {80, &styles::toggle_edge_command<excel::xlEdgeTop>, plain, formats},  // Top Border
     {81, &styles::toggle_edge_command<excel::xlEdgeBottom>, plain, formats},  // Bottom Border
     {82, &styles::toggle_edge_command<excel::xlEdgeLeft>, plain, formats},  // Left Border

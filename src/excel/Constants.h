@@ -18,6 +18,10 @@ inline constexpr std::int32_t xlCenterAcrossSelection = 7;
 inline constexpr std::int32_t xlTop = -4160;
 inline constexpr std::int32_t xlBottom = -4107;
 
+// XlDirection
+inline constexpr std::int32_t xlUp = -4162;
+inline constexpr std::int32_t xlToLeft = -4159;
+
 // XlOrientation
 inline constexpr std::int32_t xlHorizontal = -4128;
 

@@ -23,6 +23,7 @@ class Range : public Facade<Range> {
     static constexpr auto members = std::to_array<MemberRow>({
         {"Address", Access::get, "RowAbsolute ColumnAbsolute ReferenceStyle External RelativeTo"},
         {"Areas", Access::get},
+        {"AutoFit", Access::method},
         {"Borders", Access::get},
         {"Cells", Access::get},
         {"ClearFormats", Access::method},
@@ -31,17 +32,20 @@ class Range : public Facade<Range> {
         {"Columns", Access::get},
         {"Count", Access::get},
         {"CountLarge", Access::get},
+        {"Delete", Access::method, "Shift"},
         {"EntireColumn", Access::get},
         {"EntireRow", Access::get},
         {"Font", Access::get},
         {"FormatConditions", Access::get},
         {"Formula", Access::get_put},
         {"FormulaR1C1", Access::get_put},
+        {"Group", Access::method, "Start End By Periods"},
         {"HasFormula", Access::get},
         {"Hidden", Access::get_put},
         {"HorizontalAlignment", Access::get_put},
         {"Hyperlinks", Access::get},
         {"IndentLevel", Access::get_put},
+        {"Insert", Access::method, "Shift CopyOrigin"},
         {"Interior", Access::get},
         {"Item", Access::get, "RowIndex! ColumnIndex"},
         {"Locked", Access::get_put},
@@ -60,6 +64,7 @@ class Range : public Facade<Range> {
         {"SpillParent", Access::get},
         {"SpecialCells", Access::method, "Type! Value"},
         {"Text", Access::get},
+        {"Ungroup", Access::method},
         {"Value", Access::get_put, "RangeValueDataType"},
         {"Value2", Access::get_put},
         {"VerticalAlignment", Access::get_put},
@@ -79,6 +84,8 @@ class Range : public Facade<Range> {
         return get<std::string>("Address", row_absolute, column_absolute, reference_style, external);
     }
     [[nodiscard]] excel::Areas Areas() const { return get<excel::Areas>("Areas"); }
+    // Of whole rows, or columns.
+    void AutoFit() const { call("AutoFit"); }
     [[nodiscard]] excel::Borders Borders() const { return get<excel::Borders>("Borders"); }
     [[nodiscard]] Border Borders(std::int32_t index) const { return Borders().Item(index); }  // XlBordersIndex
     [[nodiscard]] Range Cells() const { return get<Range>("Cells"); }
@@ -93,6 +100,7 @@ class Range : public Facade<Range> {
     // Fails from 2,147,483,648 cells on.
     [[nodiscard]] std::int32_t Count() const { return get<std::int32_t>("Count"); }
     [[nodiscard]] double CountLarge() const { return get<double>("CountLarge"); }
+    void Delete(std::int32_t shift) const { call("Delete", shift); }  // XlDeleteShiftDirection
     [[nodiscard]] Range EntireColumn() const { return get<Range>("EntireColumn"); }
     [[nodiscard]] Range EntireRow() const { return get<Range>("EntireRow"); }
     [[nodiscard]] excel::Font Font() const { return get<excel::Font>("Font"); }
@@ -103,6 +111,7 @@ class Range : public Facade<Range> {
     void Formula(excel::Value value) const { put("Formula", std::move(value)); }
     [[nodiscard]] excel::Value FormulaR1C1() const { return get("FormulaR1C1"); }
     void FormulaR1C1(excel::Value value) const { put("FormulaR1C1", std::move(value)); }
+    void Group() const { call("Group"); }  // one outline level deeper
     [[nodiscard]] excel::Value HasFormula() const { return get("HasFormula"); }
     [[nodiscard]] excel::Value Hidden() const { return get("Hidden"); }  // whole rows or whole columns only
     void Hidden(excel::Value value) const { put("Hidden", std::move(value)); }
@@ -111,6 +120,7 @@ class Range : public Facade<Range> {
     [[nodiscard]] excel::Hyperlinks Hyperlinks() const { return get<excel::Hyperlinks>("Hyperlinks"); }
     [[nodiscard]] excel::Value IndentLevel() const { return get("IndentLevel"); }
     void IndentLevel(excel::Value value) const { put("IndentLevel", std::move(value)); }
+    void Insert() const { call("Insert"); }
     [[nodiscard]] excel::Interior Interior() const { return get<excel::Interior>("Interior"); }
     [[nodiscard]] Range Item(std::int32_t row, std::int32_t column) const { return get<Range>("Item", row, column); }
     [[nodiscard]] excel::Value Locked() const { return get("Locked"); }  // while the sheet is protected
@@ -139,7 +149,8 @@ class Range : public Facade<Range> {
     [[nodiscard]] Range SpillParent() const { return get<Range>("SpillParent"); }
     // XlCellType; fails when there are none.
     [[nodiscard]] Range SpecialCells(std::int32_t type) const { return call<Range>("SpecialCells", type); }
-    [[nodiscard]] excel::Value Text() const { return get("Text"); }    // as the sheet shows it
+    [[nodiscard]] excel::Value Text() const { return get("Text"); }  // as the sheet shows it
+    void Ungroup() const { call("Ungroup"); }
     [[nodiscard]] excel::Value Value() const { return get("Value"); }  // a 2-D array for several cells
     void Value(excel::Value value) const { put("Value", std::move(value)); }
     [[nodiscard]] excel::Value Value2() const { return get("Value2"); }  // dates as their serials

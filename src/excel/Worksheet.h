@@ -6,6 +6,7 @@
 
 #include "excel/ListObjects.h"
 #include "excel/Names.h"
+#include "excel/Outline.h"
 #include "excel/Protection.h"
 #include "excel/Range.h"
 
@@ -23,6 +24,7 @@ class Worksheet : public Facade<Worksheet> {
         {"ListObjects", Access::get},
         {"Name", Access::get_put},
         {"Names", Access::get},
+        {"Outline", Access::get},
         {"Parent", Access::get},
         {"ProtectContents", Access::get},
         {"Protection", Access::get},
@@ -44,6 +46,7 @@ class Worksheet : public Facade<Worksheet> {
     [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
     void Name(std::string_view name) const { put("Name", name); }
     [[nodiscard]] excel::Names Names() const { return get<excel::Names>("Names"); }
+    [[nodiscard]] excel::Outline Outline() const { return get<excel::Outline>("Outline"); }
     [[nodiscard]] excel::Workbook Parent() const;
     [[nodiscard]] bool ProtectContents() const { return get<bool>("ProtectContents"); }
     [[nodiscard]] excel::Protection Protection() const { return get<excel::Protection>("Protection"); }

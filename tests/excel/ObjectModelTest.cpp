@@ -51,8 +51,8 @@ struct Facades {
 };
 using AllFacades = Facades<Application, Areas, Border, Borders, CommandBar, CommandBarButton, CommandBarControl,
                            CommandBarControls, CommandBarPopup, CommandBars, Font, FormatCondition, FormatConditions,
-                           Hyperlink, Hyperlinks, Interior, ListObject, ListObjects, Name, Names, Protection, Range,
-                           Window, Workbook, Workbooks, Worksheet, Worksheets>;
+                           Hyperlink, Hyperlinks, Interior, ListObject, ListObjects, Name, Names, Outline, Protection,
+                           Range, Window, Workbook, Workbooks, Worksheet, Worksheets>;
 
 TEST(ObjectModel, EveryMemberThatAFacadeCallsIsExcels) {
     EXPECT_THAT(AllFacades::compare(), testing::IsEmpty());

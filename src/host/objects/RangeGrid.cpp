@@ -176,8 +176,8 @@ void RangeObject::set_outline_level(std::int32_t level) {
 
 void RangeObject::change_outline(std::string_view member, std::int32_t step) {
     Sheet& sheet = cells_.sheet();
-    const bool rows = std::ranges::all_of(cells_.areas(), &Area::whole_rows);
-    if (!rows && !std::ranges::all_of(cells_.areas(), &Area::whole_columns)) {
+    const bool rows = unit_ == Unit::Rows || all_of(cells_.areas(), &Area::whole_rows);
+    if (!rows && unit_ != Unit::Columns && !all_of(cells_.areas(), &Area::whole_columns)) {
         refuse(member, "whole rows or whole columns are grouped");
     }
     require_allowed(sheet, false, member);
