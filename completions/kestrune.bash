@@ -2,7 +2,7 @@
 _kestrune() {
     local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command=${COMP_WORDS[1]}
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W "run commands cell show diff --help --version" -- "$word"))
+        COMPREPLY=($(compgen -W "run commands keys cell show diff --help --version" -- "$word"))
         return
     fi
     case $previous in
@@ -14,8 +14,12 @@ _kestrune() {
             run) COMPREPLY=($(compgen -W "-o --output --in-place --answer --json --trace --help" -- "$word")) ;;
             show) COMPREPLY=($(compgen -W "--html --color --help" -- "$word")) ;;
             commands) COMPREPLY=($(compgen -W "--json --html --help" -- "$word")) ;;
-            cell | diff) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
+            cell | diff | keys) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
         esac
+        return
+    fi
+    if [[ $command == keys ]]; then
+        ((COMP_CWORD == 2)) && COMPREPLY=($(compgen -W "set clear reset swallow release on off" -- "$word"))
         return
     fi
     compopt -o filenames

@@ -1,15 +1,19 @@
 #include "brvblib/CommandTexts.h"
 
+#include "brvblib/hotkeys/SuitableKey.h"
+#include "keys/KeyText.h"
+
 namespace kestrune::brvblib {
 
 // One row a command, its number behind it: name, description, key, group, topic.
 //
 // The default keys leave alone what modellers press without thinking (Ctrl+Shift+L and V, the arrows, Ctrl+; and the
-// like) and every Ctrl+Alt with a letter or digit, which types a character on most European keyboards. Where they cover
-// a key of Excel's own, the command does what that key does and more: Ctrl+Shift+4 gives a currency format. Commands
-// that remove things, and those that Excel has a good key for, have none.
+// like), every Ctrl+Alt with a character, which types one on most European keyboards, and what Remote Desktop takes
+// (Ctrl+Alt with Home, End, PageUp, PageDown). Where they cover a key of Excel's own, the command does what that key
+// does and more: Ctrl+Shift+4 gives a currency format. Commands that remove things, and those that Excel has a good key
+// for (Ctrl+PageDown, Ctrl+Alt+=), have none.
 // clang-format off
-const std::array<CommandText, 103> command_texts{{
+constexpr std::array<CommandText, 103> command_texts{{
     {"Smart Copy Right", "Copies the selected column to the right, onto the columns that the interval, always and fill rules choose.", "Ctrl+Shift+R", "Smart Tools", "SmartCopy"},  // 0
     {"Smart Copy Down", "Copies the selected row down, onto the rows that the interval, always and fill rules choose.", "Ctrl+Shift+D", "Smart Tools", "SmartCopy"},  // 1
     {"Smart Anchor", "Steps the references of the selected formulas through relative, absolute and the two mixed forms.", "Ctrl+Shift+A", "Smart Tools", "SmartAnchor"},  // 2
@@ -23,8 +27,8 @@ const std::array<CommandText, 103> command_texts{{
     {"Next Bookmark", "Goes to the workbook's next bookmark.", "Ctrl+Shift+N", "Bookmarks", "Bookmarks"},  // 10
     {"Previous Bookmark", "Goes to the workbook's previous bookmark.", "Ctrl+Shift+P", "Bookmarks", "Bookmarks"},  // 11
     {"Remove Bookmarks", "Removes every bookmark of the workbook.", "", "Bookmarks", "Bookmarks"},  // 12
-    {"Next Worksheet", "Goes to the next visible worksheet.", "Ctrl+Alt+PageDown", "Worksheets", "Worksheets"},  // 13
-    {"Previous Worksheet", "Goes to the previous visible worksheet.", "Ctrl+Alt+PageUp", "Worksheets", "Worksheets"},  // 14
+    {"Next Worksheet", "Goes to the next visible worksheet.", "", "Worksheets", "Worksheets"},  // 13
+    {"Previous Worksheet", "Goes to the previous visible worksheet.", "", "Worksheets", "Worksheets"},  // 14
     {"AutoColor Selection", "Colors the selected cells by what they hold: inputs, formulas and links.", "Ctrl+Shift+I", "AutoColor", "AutoColor"},  // 15
     {"Apply Sheet Style", "Applies the sheet style of the user settings to the whole active sheet, after asking.", "", "Styles", "SheetStyle"},  // 16
     {"Capture BR Paintbrush", "Captures the active cell's formatting as a new style for the Paintbrush.", "Ctrl+Shift+C", "Styles", "Paintbrush"},  // 17
@@ -44,7 +48,7 @@ const std::array<CommandText, 103> command_texts{{
     {"My SmartCycle 1", "Steps the selection through the styles of your own SmartCycle 1.", "Ctrl+Shift+S", "My Style SmartCycles", "MyCycles"},  // 31
     {"My SmartCycle 2", "Steps the selection through the styles of your own SmartCycle 2.", "", "My Style SmartCycles", "MyCycles"},  // 32
     {"My SmartCycle 3", "Steps the selection through the styles of your own SmartCycle 3.", "", "My Style SmartCycles", "MyCycles"},  // 33
-    {"My SmartCycle 4", "Steps the selection through the styles of your own SmartCycle 4.", "Ctrl+Shift+Z", "My Style SmartCycles", "MyCycles"},  // 34
+    {"My SmartCycle 4", "Steps the selection through the styles of your own SmartCycle 4.", "Ctrl+Shift+Q", "My Style SmartCycles", "MyCycles"},  // 34
     {"My SmartCycle 5", "Steps the selection through the styles of your own SmartCycle 5.", "", "My Style SmartCycles", "MyCycles"},  // 35
     {"My SmartCycle 6", "Steps the selection through the styles of your own SmartCycle 6.", "", "My Style SmartCycles", "MyCycles"},  // 36
     {"My SmartCycle 7", "Steps the selection through the styles of your own SmartCycle 7.", "", "My Style SmartCycles", "MyCycles"},  // 37
@@ -97,12 +101,12 @@ const std::array<CommandText, 103> command_texts{{
     {"Outline Border", "Draws a border around the selection.", "", "Borders", "Borders"},  // 84
     {"Grid Borders", "Draws borders between the cells of the selection.", "", "Borders", "Borders"},  // 85
     {"Remove Borders", "Clears every border of the selection.", "", "Borders", "Borders"},  // 86
-    {"Zoom In", "Enlarges the active window by the zoom interval of the user settings, up to 400 per cent.", "Ctrl+Alt+=", "View", "View"},  // 87
-    {"Zoom Out", "Reduces the active window by the zoom interval of the user settings, down to 10 per cent.", "Ctrl+Alt+-", "View", "View"},  // 88
+    {"Zoom In", "Enlarges the active window by the zoom interval of the user settings, up to 400 per cent.", "", "View", "View"},  // 87
+    {"Zoom Out", "Reduces the active window by the zoom interval of the user settings, down to 10 per cent.", "", "View", "View"},  // 88
     {"Toggle Window Size", "Switches Excel's window between maximized and a small window beside which others can stand.", "", "View", "View"},  // 89
     {"Maximize Window", "Maximizes Excel's window.", "", "View", "View"},  // 90
-    {"First Worksheet", "Goes to the first visible worksheet.", "Ctrl+Alt+Home", "Worksheets", "Worksheets"},  // 91
-    {"Last Worksheet", "Goes to the last visible worksheet.", "Ctrl+Alt+End", "Worksheets", "Worksheets"},  // 92
+    {"First Worksheet", "Goes to the first visible worksheet.", "Alt+Home", "Worksheets", "Worksheets"},  // 91
+    {"Last Worksheet", "Goes to the last visible worksheet.", "Alt+End", "Worksheets", "Worksheets"},  // 92
     {"AutoColor Workbook", "Colors the cells of every worksheet by what they hold: inputs, formulas and links.", "", "AutoColor", "AutoColor"},  // 93
     {"Scale Down by Thousands", "Shows the selected numbers in thousands, millions or billions: one step smaller, the values unchanged.", "", "Decimal Adjustment", "Decimals"},  // 94
     {"Scale Up by Thousands", "Shows the selected numbers one step of thousands larger, up to their full size.", "", "Decimal Adjustment", "Decimals"},  // 95
@@ -115,5 +119,22 @@ const std::array<CommandText, 103> command_texts{{
     {"AutoColor Worksheet", "Colors the cells of the active worksheet by what they hold: inputs, formulas and links.", "", "AutoColor", "AutoColor"},  // 102
 }};
 // clang-format on
+
+namespace {
+
+consteval bool keys_are_sound() {
+    for (std::size_t i = 0; i < command_texts.size(); ++i) {
+        if (command_texts[i].key.empty()) continue;
+        const keys::KeyReading reading = keys::read_key(command_texts[i].key);
+        if (!reading.ok() || !unsuitable(reading.key).empty() || may_type(reading.key)) return false;
+        for (std::size_t j = 0; j < i; ++j) {
+            if (!command_texts[j].key.empty() && keys::read_key(command_texts[j].key).key == reading.key) return false;
+        }
+    }
+    return true;
+}
+static_assert(keys_are_sound(), "a default key is none, types a character, or is there twice");
+
+}  // namespace
 
 }  // namespace kestrune::brvblib

@@ -16,6 +16,10 @@ const Service& required(const std::shared_ptr<const Service>& service, std::stri
 
 }  // namespace
 
+Library::~Library() {
+    for (const std::string& client : hot_key_clients) hot_keys->remove_client(client);
+}
+
 const Files& Library::files() const { return required(services.files, "files"); }
 
 const XmlParser& Library::xml() const { return required(services.xml, "XML documents"); }

@@ -20,4 +20,8 @@ std::string with_separator(std::string folder);
 // Makes a folder and those above it. Fails with an AutomationError, "PATH: why", when it is not there afterwards.
 void create_folder(const std::string& path);
 
+// Renames a file that is to make room, so that it stays beside what replaces it: "Preferences (unreadable).xml", with a
+// counter where that is taken. The new path. Fails with an AutomationError, "PATH: why".
+std::string set_aside(const std::string& path, std::string_view why);
+
 }  // namespace kestrune::brvblib

@@ -50,20 +50,7 @@ std::string iFile::temporary_name(const std::optional<std::string>& ending) cons
 }
 
 std::string iFile::set_aside(const std::string& path, const std::string& why) const {
-    if (!file_exists(path)) fail(path, "is not there");
-    const fs::path from = to_path(path);
-    constexpr int most = 999;
-    for (int i = 1; i <= most; ++i) {
-        fs::path to = from.parent_path() / from.stem();
-        to += to_path(i == 1 ? fmt::format(" ({})", why) : fmt::format(" ({} {})", why, i));
-        to += from.extension();
-        std::error_code failure;
-        if (fs::exists(fs::symlink_status(to, failure))) continue;
-        fs::rename(from, to, failure);
-        if (failure) fail(path, failure.message());
-        return to_utf8(to);
-    }
-    fail(path, fmt::format("{} files stand aside already", most));
+    return brvblib::set_aside(path, why);
 }
 
 Value iFile::open_dialog(const std::string& title, const std::string& filter, const std::string& pattern,

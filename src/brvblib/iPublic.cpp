@@ -17,7 +17,7 @@ iPublic::iPublic(std::shared_ptr<Library> library)
              std::make_shared<iWinAPI>(library_), std::make_shared<iXML>(library_)) {}
 
 bool iPublic::unregister_client(const std::string& client_name) {
-    library_->hot_key_callbacks.erase(client_name);
+    if (library_->hot_key_clients.erase(client_name) > 0) library_->hot_keys->remove_client(client_name);
     const bool known = library_->clients.erase(client_name) > 0;
     if (library_->clients.empty()) library_->application = nullptr;
     return known;

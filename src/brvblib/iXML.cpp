@@ -2,10 +2,10 @@
 
 #include <fmt/format.h>
 
-#include <charconv>
+#include <utility>
 
 #include "automation/AutomationError.h"
-#include "automation/Text.h"
+#include "brvblib/xml/XmlFile.h"
 #include "brvblib/xml/XmlNodes.h"
 #include "brvblib/xml/XmlText.h"
 
@@ -17,9 +17,6 @@ using automation::MemberTable;
 using automation::method;
 using automation::ObjectRef;
 using automation::Value;
-
-constexpr std::string_view version_attribute = "version";
-constexpr std::string_view identifier_attribute = "id";
 
 [[noreturn]] void refuse(std::string_view member, std::string_view what) {
     throw AutomationError(automation::hresult::exception, member, what);
@@ -43,22 +40,6 @@ XmlElementRef first(std::string_view name, const XmlElement& under) {
     return child ? child : under.descendant(name);
 }
 
-// The major part of a version text, "3" of "3.0"; nothing when it begins with no number.
-std::optional<int> major(std::string_view version) {
-    int number = 0;
-    const auto [end, failure] = std::from_chars(version.data(), version.data() + version.size(), number);
-    if (failure != std::errc{}) return std::nullopt;
-    return number;
-}
-
-// Identifiers are GUIDs: braces around them and the case of their letters mean nothing.
-std::string_view bare(std::string_view identifier) {
-    if (identifier.size() > 2 && identifier.front() == '{' && identifier.back() == '}') {
-        return identifier.substr(1, identifier.size() - 2);
-    }
-    return identifier;
-}
-
 }  // namespace
 
 void iXML::clear() {
@@ -73,33 +54,16 @@ ObjectRef iXML::load(const std::string& path, const std::string& identifier, con
                      const std::optional<std::string>& version) {
     clear();
     try {
-        root_ = read(path, identifier, name, version);
+        XmlDocument document = read_xml_file(library_->files(), library_->xml(), path, identifier, name, version);
+        loaded_ = std::move(document.text);
+        root_ = std::move(document.root);
+        version_ = std::move(document.version);
     } catch (const AutomationError& error) {
-        clear();
         // What files say names the file already.
         const std::string& what = error.description();
         last_error_ = what.starts_with(path + ": ") ? what : fmt::format("{}: {}", path, what);
     }
     return XmlNode::of(root_);
-}
-
-XmlElementRef iXML::read(const std::string& path, const std::string& identifier, const std::string& name,
-                         const std::optional<std::string>& version) {
-    loaded_ = xml_text(library_->files().read(path, longest_file));
-    XmlElementRef root = library_->xml().parse(loaded_);
-    const auto found = root->attribute(identifier_attribute);
-    if (!found || !automation::same_text(bare(*found), bare(identifier))) {
-        refuse("iXML.Load", fmt::format("is no {} document: its identifier is {}", name,
-                                        found ? fmt::format("'{}'", *found) : "missing"));
-    }
-    version_ = root->attribute(version_attribute).value_or("");
-    const auto its_major = major(version_);
-    if (!its_major) refuse("iXML.Load", fmt::format("its version '{}' is none", version_));
-    if (version && *its_major > major(*version).value_or(0)) {
-        refuse("iXML.Load",
-               fmt::format("its version {} is later than {}, the latest that can be read", version_, *version));
-    }
-    return root;
 }
 
 void iXML::start_document(const std::string& root, const std::string& version, const std::string& identifier) {

@@ -19,9 +19,6 @@ class iXML : public automation::Served<iXML> {
     explicit iXML(std::shared_ptr<Library> library) : library_(std::move(library)) {}
     static const automation::MemberTable& members();
 
-    // The longest file that is read, bytes; and how deep elements may nest in it, as in MSXML.
-    static constexpr std::size_t longest_file = 16U << 20U;
-
   private:
     void clear();
 
@@ -49,8 +46,6 @@ class iXML : public automation::Served<iXML> {
     [[nodiscard]] bool save(const std::string& path);
 
     XmlWriter& writer(std::string_view operation);
-    XmlElementRef read(const std::string& path, const std::string& identifier, const std::string& name,
-                       const std::optional<std::string>& version);
     // The document as it stands: its text, and its root element.
     [[nodiscard]] std::string text() const;
     XmlElementRef root();

@@ -29,6 +29,9 @@ AddIn::AddIn(const excel::Application& application, host::Macros& macros, forms:
     global_ = automation::to_object(automation::call(*public_, "NewGlobal"));
     if (!global_) throw Failure("the add-in did not start");
     add_macros(macros, application.ActiveWorkbook().Name());
+    const automation::ObjectRef general = automation::CreateObject("BRVBLib.iPublic");
+    const automation::ObjectRef keys = automation::to_object(automation::get(*general, "iHotKeys"));
+    hot_keys_ = automation::to_object(automation::get(*keys, "Registry"));
 }
 
 void AddIn::add_macros(host::Macros& macros, const std::string& workbook) const {

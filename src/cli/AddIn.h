@@ -24,7 +24,9 @@ class AddIn {
     AddIn(const AddIn&) = delete;
     AddIn& operator=(const AddIn&) = delete;
 
-    [[nodiscard]] automation::Object& commands() { return *global_; }      // iGlobal
+    [[nodiscard]] automation::Object& commands() { return *global_; }  // iGlobal
+    // The general library's registry of hot keys.
+    [[nodiscard]] automation::Object& hot_keys() { return *hot_keys_; }
     [[nodiscard]] automation::Object& undo_redo() { return *undo_redo_; }  // the spreadsheet library's iUndoRedo
 
   private:
@@ -33,6 +35,7 @@ class AddIn {
     automation::ObjectRef undo_redo_;
     automation::ObjectRef public_;
     automation::ObjectRef global_;
+    automation::ObjectRef hot_keys_;
 };
 
 }  // namespace kestrune::cli

@@ -7,7 +7,10 @@
 
 #include "brvblib/CommandTexts.h"
 #include "cli/HelpPage.h"
+#include "cli/keys/IdleAddIn.h"
+#include "cli/keys/KeyList.h"
 #include "core/CommandTable.h"
+#include "core/bridges/Product.h"
 #include "host/xlsx/package/AtomicFile.h"
 
 namespace kestrune::cli {
@@ -22,6 +25,17 @@ std::string_view undo_note(const core::Command& command) {
     return command.touches.changes_workbook() && !command.touches.undoable() ? " (cannot be undone)" : "";
 }
 
+// The keys that the commands have now, by number.
+std::vector<std::string> present_keys() {
+    IdleAddIn add_in;
+    std::vector<std::string> keys(core::commands().size());
+    for (const ListedKey& row : listed_keys(add_in.hot_keys())) {
+        const core::Command* command = core::resolve(row.command, automation::Trace{}).command;
+        if (row.client == core::client_name && command) keys[static_cast<std::size_t>(command->number)] = row.key;
+    }
+    return keys;
+}
+
 }  // namespace
 
 void list_commands(const CommandsOptions& options) {
@@ -31,6 +45,7 @@ void list_commands(const CommandsOptions& options) {
         file.commit();
         return;
     }
+    const std::vector<std::string> keys = present_keys();
     if (options.json) {
         nlohmann::ordered_json rows = nlohmann::ordered_json::array();
         for (const core::Command& command : core::commands()) {
@@ -38,7 +53,8 @@ void list_commands(const CommandsOptions& options) {
             rows.push_back({{"number", command.number},
                             {"name", text.name},
                             {"description", text.description},
-                            {"key", text.key},
+                            {"key", keys[static_cast<std::size_t>(command.number)]},
+                            {"default_key", text.key},
                             {"group", text.group},
                             {"parameter", command.takes_parameter},
                             {"changes_workbook", command.touches.changes_workbook()},
@@ -54,7 +70,8 @@ void list_commands(const CommandsOptions& options) {
         if (text.group != group) fmt::print("{}{}\n", group.empty() ? "" : "\n", text.group);
         group = text.group;
         fmt::print("{:>5}{:<3} {:<34} {:<20} {}{}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
-                   text.key, text.description, undo_note(command), command.body ? "" : " (not available yet)");
+                   keys[static_cast<std::size_t>(command.number)], text.description, undo_note(command),
+                   command.body ? "" : " (not available yet)");
     }
 }
 

@@ -7,6 +7,7 @@
 #include "cli/HostFormats.h"
 #include "excel/Application.h"
 #include "host/objects/HostSession.h"
+#include "host/objects/keys/KeyPress.h"
 #include "host/xlsx/WorkbookFile.h"
 
 namespace kestrune::cli {
@@ -22,6 +23,8 @@ class OpenWorkbook {
     void activate() { session_.activate(model()); }
     [[nodiscard]] host::Workbook& model() { return file_->workbook(); }
     [[nodiscard]] const host::HostSession& session() const { return session_; }
+    // Presses a key; what comes of it.
+    host::KeyPress press(const keys::Key& key) { return host::press_key(session_, key); }
     // What Excel may run by name.
     [[nodiscard]] host::Macros& macros() { return session_.macros; }
     // What the libraries ask about number formats of open workbooks.

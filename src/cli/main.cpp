@@ -11,6 +11,7 @@
 #include "cli/Version.h"
 #include "cli/cell/CellCommand.h"
 #include "cli/diff/DiffCommand.h"
+#include "cli/keys/KeysCommand.h"
 #include "cli/run/RunCommand.h"
 #include "cli/show/ShowCommand.h"
 #include "host/xlsx/PackageError.h"
@@ -43,10 +44,10 @@ void add_run(CLI::App& app, RunOptions& options) {
         ->capture_default_str();
     command->add_flag("--json", options.json, "Report each step as JSON");
     command->add_flag("--trace", options.trace, "Tell on standard error what commands skipped");
-    command->add_option(
-        "STEP", options.steps,
-        "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, undo:2 undoes, redo, history, RunAutoColor a "
-        "member");
+    command->add_option("STEP", options.steps,
+                        "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, key:Ctrl+Shift+4 presses a key, undo:2 "
+                        "undoes, redo, history, "
+                        "RunAutoColor a member");
     command->footer(
         "Steps run from left to right in one session; without steps the workbook is saved as it is.\n"
         "Without -o and --in-place nothing is saved.");
@@ -92,6 +93,35 @@ void add_diff(CLI::App& app, DiffOptions& options) {
     command->callback([&options] { diff(options); });
 }
 
+void add_keys(CLI::App& app, KeysOptions& options) {
+    CLI::App* command = app.add_subcommand("keys", "List and change the hot keys");
+    command->add_flag("--json", options.json, "As JSON");
+    command->require_subcommand(0, 1);
+    const auto add = [&](const char* name, const char* help, const char* operation,
+                         std::initializer_list<std::pair<const char*, const char*>> arguments, bool required = true) {
+        CLI::App* action = command->add_subcommand(name, help);
+        auto words = std::make_shared<std::vector<std::string>>(arguments.size());
+        std::size_t place = 0;
+        for (const auto& [argument, what] : arguments) {
+            action->add_option(argument, (*words)[place++], what)->required(required);
+        }
+        action->add_flag("--json", options.json, "All keys afterwards, as JSON");
+        action->callback([&options, words, operation] {
+            options.operation = operation;
+            options.arguments = *words;
+        });
+    };
+    constexpr const char* which = "The command: its number, or BRUndo, BRRedo";
+    add("set", "Give a command a key", "SetKey", {{"COMMAND", which}, {"KEY", "The key, such as Ctrl+Shift+4"}});
+    add("clear", "Take a command's key away", "ClearKey", {{"COMMAND", which}});
+    add("reset", "Give a command its default key back, or all of them", "ResetKey", {{"COMMAND", which}}, false);
+    add("swallow", "Have a key do nothing, in Excel either", "Swallow", {{"KEY", "The key"}});
+    add("release", "Give such a key back to Excel", "Unswallow", {{"KEY", "The key"}});
+    add("on", "Switch all hot keys on", "On", {});
+    add("off", "Switch all hot keys off", "Off", {});
+    command->callback([&options] { manage_keys(options); });
+}
+
 // What the person typed, and what it needs while it runs.
 int run_program(int argc, char** argv) {
     CLI::App app(about, "kestrune");
@@ -103,8 +133,10 @@ int run_program(int argc, char** argv) {
     ShowOptions show_options;
     DiffOptions diff_options;
     CommandsOptions commands_options;
+    KeysOptions keys_options;
     add_run(app, run_options);
     add_commands(app, commands_options);
+    add_keys(app, keys_options);
     add_cell(app, cell_options);
     add_show(app, show_options);
     add_diff(app, diff_options);

@@ -79,6 +79,13 @@ void iGlobal::show_examples_workbook() const {
     core::show_examples_workbook(*shared);
 }
 
+void iGlobal::show_hot_key_manager() const {
+    const auto shared = shared_;
+    const automation::ResumeNext attempt(shared->trace);
+    attempt([&] { shared->general().show_hot_key_manager(); });
+    // The product menu, which would show other keys from here on, is not in this version.
+}
+
 void iGlobal::show_help() const {
     const auto shared = shared_;
     const automation::ResumeNext attempt(shared->trace);
@@ -95,6 +102,7 @@ const MemberTable& iGlobal::members() {
         automation::method<&iGlobal::toggle_auto_color>("ToggleAutoColor", id("ToggleAutoColor")),
         automation::method<&iGlobal::run_auto_color>("RunAutoColor", id("RunAutoColor")),
         automation::method<&iGlobal::show_examples_workbook>("ShowExamplesWorkbook", id("ShowExamplesWorkbook")),
+        automation::method<&iGlobal::show_hot_key_manager>("ShowHotKeyManager", id("ShowHotKeyManager")),
         automation::method<&iGlobal::show_help>("ShowHelp", id("ShowHelp")),
         automation::method<&iGlobal::run_macro>("RunMacro", id("RunMacro"), "Request"),
         automation::read_only<&iGlobal::lesson_path>("LessonPath", id("LessonPath")),

@@ -21,6 +21,8 @@ class iGlobal : public automation::Served<iGlobal> {
     // Runs a numbered command ("19", "20.3"); whether one could run.
     bool run_macro(const automation::Value& request) const;
     void show_examples_workbook() const;
+    // Shows which command has which key.
+    void show_hot_key_manager() const;
     // Opens the product's help; a help that cannot be opened is told to the user.
     void show_help() const;
     // The folder of the lesson workbooks, a separator at its end.

@@ -1,6 +1,7 @@
 #include "core/iPublic.h"
 
 #include "automation/ResumeNext.h"
+#include "core/HotKeys.h"
 #include "core/StartUp.h"
 #include "core/iGlobal.h"
 
@@ -25,6 +26,7 @@ std::shared_ptr<iPublic> iPublic::new_public(const ObjectRef& application, const
     attempt([&] { shared_->spreadsheet().set_application(application); });
     attempt([&] { shared_->general().set_application(application); });
     shared_->add_in_workbook = workbook;
+    start_hot_keys(*shared_);
     return self;
 }
 

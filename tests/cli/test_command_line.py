@@ -28,6 +28,7 @@ class CommandLineTest(unittest.TestCase):
         config = tempfile.TemporaryDirectory()
         self.addCleanup(config.cleanup)
         os.environ["XDG_CONFIG_HOME"] = config.name  # nobody's own settings
+        self.config = pathlib.Path(config.name)
         self.book = self.folder / "book.xlsx"
         book = openpyxl.Workbook()
         model = book.active
@@ -162,6 +163,76 @@ class Running(CommandLineTest):
         self.assertIn("-1", result.stderr)
 
 
+class HotKeys(CommandLineTest):
+    def keys(self, *arguments):
+        return json.loads(self.run_ok("keys", *arguments, "--json").stdout)
+
+    def key_of(self, command):
+        return next(row for row in self.keys()["keys"] if row["command"] == command)
+
+    def test_a_key_runs_its_command_and_is_undone(self):
+        out = self.folder / "out.xlsx"
+        steps = ("run", self.book, "-o", out, "@Inputs", "key:ctrl-shift-4", "key:Ctrl+Shift+4")
+        self.run_ok(*steps)
+        twice = openpyxl.load_workbook(out)["Model"]["B2"].number_format
+        self.run_ok("run", self.book, "-o", out, "@Inputs", "20", "20")
+        self.assertEqual(twice, openpyxl.load_workbook(out)["Model"]["B2"].number_format)
+        report = json.loads(self.run_ok(*steps, "key:Ctrl+Z", "key:Ctrl+Z", "key:Ctrl+Shift+Z", "--json").stdout)
+        self.assertEqual([step.get("did") for step in report],
+                         [None, "Currency SmartCycle", "Currency SmartCycle", "undoes", "undoes", "BRRedo"])
+        self.assertEqual((report[1]["key"], report[1]["ran"]), ("Ctrl+Shift+4", True))
+        self.run_ok("run", self.book, "-o", out, "@Inputs", "20")
+        self.run_ok("run", self.book, "--in-place", "@Inputs", *steps[5:], "key:Ctrl+Z", "key:Ctrl+Z",
+                    "key:Ctrl+Shift+Z")
+        self.assertEqual(json.loads(self.run_ok("diff", self.book, out, "--json").stdout), [])
+
+    def test_keys_that_no_command_has_do_as_excel_does(self):
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", self.book, "-o", out, "@A1", "key:Right", "key:Ctrl+Shift+Down", "key:Ctrl+B",
+                    "key:Ctrl+Shift+6", "@C1:D2", "key:Ctrl+D", "@A5", "key:Delete")
+        sheet = openpyxl.load_workbook(out)["Model"]
+        self.assertEqual([sheet.cell(5, column).font.bold for column in (1, 2, 3)], [False, True, False])
+        self.assertEqual(sheet["B3"].number_format, "0.00E+00")
+        self.assertEqual((sheet["C2"].value, sheet["D2"].value, sheet["A5"].value), (13, 14, None))
+
+    def test_keys_are_changed_kept_and_given_back(self):
+        self.assertIn("cleared", self.run_ok("keys", "clear", "34").stdout)
+        self.assertEqual((self.key_of("34")["key"], self.key_of("34")["status"]), ("", "cleared"))
+        self.assertIn("Ctrl+Shift+Q", self.run_ok("keys", "set", "20", "ctrl-shift-q").stdout)
+        self.assertEqual(self.key_of("20")["status"], "chosen")
+        self.assertEqual(json.loads(self.run_ok("commands", "--json").stdout)[20]["key"], "Ctrl+Shift+Q")
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", self.book, "-o", out, "@Inputs", "key:Ctrl+Shift+Q", "@A1", "key:Ctrl+Shift+4")
+        sheet = openpyxl.load_workbook(out)["Model"]
+        self.assertEqual(sheet["B2"].number_format, "[$$-409]#,##0_);([$$-409]#,##0)")
+        self.assertIn("[Red]", sheet["A1"].number_format, "Excel's own currency format")
+        self.run_ok("keys", "swallow", "Ctrl+B")
+        self.assertEqual(self.keys("off")["enabled"], False)
+        self.run_ok("run", self.book, "-o", out, "@Inputs", "key:Ctrl+B")
+        self.assertTrue(openpyxl.load_workbook(out)["Model"]["B2"].font.bold)
+        self.run_ok("keys", "on")
+        step = json.loads(self.run_ok("run", self.book, "--json", "@Inputs", "key:Ctrl+B").stdout)[1]
+        self.assertEqual(step["ran"], False)
+        self.assertEqual(self.keys("reset")["swallowed"], [])
+        self.assertEqual(self.key_of("20")["key"], "Ctrl+Shift+4")
+
+    def test_an_unreadable_file_is_kept_aside_and_told(self):
+        self.run_ok("keys", "clear", "20")
+        file = pathlib.Path(self.keys()["file"])
+        self.assertTrue(file.is_relative_to(self.config))
+        file.write_text(file.read_text().replace("<Key></Key>", "<Key>Ctrl+Foo</Key>"))
+        result = self.run_ok("keys")
+        self.assertIn("there is no key 'Foo'", result.stderr)
+        self.assertEqual([path.name for path in self.config.rglob("HotKeys*")], ["HotKeys (unreadable).xml"])
+        self.assertEqual(self.key_of("20")["key"], "Ctrl+Shift+4")
+
+    def test_the_document_tells_what_the_default_keys_replace(self):
+        rows = [f"| `{row['key']}` | {row['name']} | {row['in_excel']} |"
+                for row in self.keys()["keys"] if row["status"] == "default" and row["in_excel"]]
+        document = (TOP / "docs" / "hot-keys.md").read_text()
+        self.assertEqual([line for line in document.splitlines() if line.startswith("| `")], rows)
+
+
 class Refusing(CommandLineTest):
     def refused(self, status, needle, *arguments):
         result = kestrune(*arguments)
@@ -199,6 +270,20 @@ class Refusing(CommandLineTest):
             self.assertFalse(out.exists(), steps)
         self.refused(1, "missing.xlsx", "run", self.folder / "missing.xlsx", "20")
         self.refused(1, "No such file", "run", self.book, "-o", self.folder / "nowhere" / "out.xlsx", "@A1", "20")
+
+    def test_keys_that_cannot_be(self):
+        for status, needle, *arguments in (
+                (2, "there is no key 'Foo'", "run", self.book, "key:Ctrl+Foo"),
+                (2, "names no key", "run", self.book, "key:"),
+                (1, "Excel shows the Go To dialog, which needs", "run", self.book, "key:F5"),
+                (1, "Excel does nothing with it", "run", self.book, "key:Ctrl+Alt+Q"),
+                (1, "nothing that a macro could take back", "run", self.book, "key:Ctrl+Z"),
+                (1, "is the key of Currency SmartCycle (20)", "keys", "set", "21", "Ctrl+Shift+4"),
+                (1, "belongs to Windows", "keys", "set", "21", "Alt+F4"),
+                (1, "103: there is no such command", "keys", "clear", "103"),
+                (2, "KEY", "keys", "set", "21")):
+            self.refused(status, needle, *arguments)
+        self.assertEqual(list(self.config.rglob("HotKeys*")), [])
 
     def test_files_that_are_no_workbooks(self):
         with zipfile.ZipFile(self.book) as package:

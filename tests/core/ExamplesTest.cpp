@@ -30,6 +30,9 @@ struct ExamplesTest : AddInTest {
         }
     }
 
+    // The add-in lets go of the host, which ends first.
+    ~ExamplesTest() override { entry = nullptr; }
+
     void start_in_host() {
         watch("BRVBLib");
         entry = create_public();

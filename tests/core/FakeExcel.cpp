@@ -49,7 +49,8 @@ Value Workbook::get_colors() {
 }
 
 const MemberTable& Workbook::members() {
-    static constexpr auto rows = automation::member_rows(read_only<&Workbook::get_colors>("Colors", 1));
+    static constexpr auto rows = automation::member_rows(read_only<&Workbook::get_colors>("Colors", 1),
+                                                         read_only<&Workbook::get_name>("Name", 2));
     static constexpr MemberTable table("Workbook", rows);
     return table;
 }
@@ -57,6 +58,15 @@ const MemberTable& Workbook::members() {
 Value Application::invoke(std::string_view member, Call kind, Arguments& arguments) {
     if (refused.contains(std::string(member))) refuse(member);
     return members().invoke(*this, member, kind, arguments);
+}
+
+void Application::on_key(const std::string& key, const std::optional<std::string>& procedure) {
+    if (procedure) {
+        keys[key] = *procedure;
+    } else {
+        ++given_back[key];
+        keys.erase(key);
+    }
 }
 
 void Application::set_updating(bool updating) {
@@ -83,7 +93,8 @@ const MemberTable& Application::members() {
         read_only<&A::get_window>("ActiveWindow", 3), read_only<&A::get_workbook>("ActiveWorkbook", 4),
         property<&A::get_state, &A::set_state>("WindowState", 5), property<&A::get_side<0>, &A::set_side<0>>("Left", 6),
         property<&A::get_side<1>, &A::set_side<1>>("Top", 7), property<&A::get_side<2>, &A::set_side<2>>("Width", 8),
-        property<&A::get_side<3>, &A::set_side<3>>("Height", 9));
+        property<&A::get_side<3>, &A::set_side<3>>("Height", 9),
+        automation::method<&A::on_key>("OnKey", 10, "Key, [Procedure]"));
     static constexpr MemberTable table("Application", rows);
     return table;
 }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -49,6 +50,7 @@ class Workbook : public automation::Served<Workbook> {
 
   private:
     [[nodiscard]] Value get_colors();
+    [[nodiscard]] std::string get_name() const { return name_; }
 
     std::string name_;
     Log& log_;
@@ -63,7 +65,9 @@ class Application : public automation::Served<Application> {
     bool screen_updating = true;
     std::shared_ptr<Window> window;
     std::shared_ptr<Workbook> workbook;
-    std::set<std::string> refused;  // members that fail with Excel's error 1004
+    std::map<std::string, std::string> keys;         // what OnKey bound, by Excel's text for the key
+    std::map<std::string, std::int32_t> given_back;  // how often OnKey gave a key back
+    std::set<std::string> refused;                   // members that fail with Excel's error 1004
     std::int32_t state = -4143;
     double box[4] = {40, 50, 600, 400};         // left, top, width and height while normal, points
     double maximised[4] = {-6, -6, 1452, 872};  // and while maximised
@@ -71,6 +75,7 @@ class Application : public automation::Served<Application> {
     Value invoke(std::string_view member, automation::Call kind, automation::Arguments& arguments) override;
 
   private:
+    void on_key(const std::string& key, const std::optional<std::string>& procedure);
     [[nodiscard]] bool get_ready() const { return ready; }
     [[nodiscard]] bool get_updating() const { return screen_updating; }
     void set_updating(bool updating);

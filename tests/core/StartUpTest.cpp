@@ -1,6 +1,10 @@
+#include <set>
+
 #include "core/AddInTest.h"
 #include "core/StartUp.h"
 #include "core/iPublic.h"
+#include "keys/KeyText.h"
+#include "keys/OnKeyText.h"
 #include "settings/UserFiles.h"
 #include "settings/cUserSettings.h"
 
@@ -85,7 +89,8 @@ TEST_F(StartUpTest, GoesStepByStep) {
                                             "BRXLLib.iAutoColor.bAutoColorOn(False)"}))
         << "the AutoColor settings come from the library's defaults and go to its service";
     std::erase_if(log, [](const std::string& line) {
-        return line.starts_with("BRXLLib.iConst.") || line.starts_with("BRXLLib.iAutoColor.");
+        return line.starts_with("BRXLLib.iConst.") || line.starts_with("BRXLLib.iAutoColor.") ||
+               line.starts_with("BRVBLib.iString.Text(");
     });
     EXPECT_THAT(log, ElementsAre("BRVBLib.iProduct.RegisterClient(KestruneXL,Kestrune,Brannoch Kestrune)",
                                  "BRXLLib.iProduct.RegisterClient(KestruneXL,Kestrune,Brannoch Kestrune)",
@@ -94,8 +99,44 @@ TEST_F(StartUpTest, GoesStepByStep) {
                                  "BRVBLib.iProduct.ShowExamplesAtStart()", "BRVBLib.iConst.Text(0)",
                                  "BRVBLib.iHotKeys.Registry.Product(Kestrune)", "BRVBLib.iProduct.DataFolder()",
                                  "BRVBLib.iProduct.AllowsTraining()", "BRXLLib.SetApplication(object)",
-                                 "BRVBLib.SetApplication(object)"));
+                                 "BRVBLib.SetApplication(object)",
+                                 "BRVBLib.iHotKeys.Registry.AddMacro(KestruneXL,BRUndo,Undo,Takes back what the last "
+                                 "command changed.,,Undo)",
+                                 "BRVBLib.iHotKeys.Registry.AddMacro(KestruneXL,BRRedo,Redo,Does again what undo took "
+                                 "back.,Ctrl+Shift+Z,Undo)",
+                                 "BRVBLib.iHotKeys.Registry.SetMacros(KestruneXL,companion,mDOM)",
+                                 "BRVBLib.iHotKeys.Registry.Bind()"));
     EXPECT_THAT(skipped, IsEmpty());
+}
+
+TEST_F(StartUpTest, BindsItsKeysAndGivesEachBackOnce) {
+    start();
+    const auto bound = application->keys;
+    EXPECT_EQ(bound.at("^+4"), "'companion'!'mDOM.RunMacro \"20\"'");
+    EXPECT_EQ(bound.at("^+{[}"), "'companion'!'mDOM.RunMacro \"7\"'");
+    EXPECT_EQ(bound.at("^+z"), "'companion'!mDOM.BRRedo");
+    std::set<std::string> expected{"^+z"};
+    const auto strings = to_object(automation::get(*automation::CreateObject("BRVBLib.iPublic"), "iString"));
+    for (std::int32_t number = 0; number <= 102; ++number) {
+        const std::string key = automation::to_text(call(*strings, "Text", {22000 + number}));
+        if (!key.empty()) expected.insert(keys::on_key_text(keys::read_key(key).key));
+    }
+    for (const auto& [key, macro] : bound) EXPECT_EQ(expected.erase(key), 1U) << key << " runs " << macro;
+    EXPECT_THAT(expected, IsEmpty()) << "no command's key is another's";
+    entry = nullptr;
+    EXPECT_THAT(application->keys, IsEmpty());
+    EXPECT_EQ(application->given_back.size(), bound.size());
+    for (const auto& [key, times] : application->given_back) EXPECT_EQ(times, 1) << key;
+}
+
+TEST_F(StartUpTest, ShowsTheKeysInPlaceOfAManager) {
+    start();
+    call(*global, "ShowHotKeyManager");
+    ASSERT_EQ(presenter.messages().size(), 1U);
+    EXPECT_EQ(presenter.messages().front().caption, "Brannoch Kestrune");
+    for (const char* part : {"Ctrl+Shift+4", "Currency SmartCycle", "Ctrl+Shift+Z", "Redo"}) {
+        EXPECT_THAT(presenter.messages().front().text, testing::HasSubstr(part));
+    }
 }
 
 TEST_F(StartUpTest, TellsWhenTheHelpIsMissing) {

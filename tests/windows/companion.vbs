@@ -98,6 +98,34 @@ commands.ApplySmartCycleStyle "4", 1, sheet.Range("F2")
 Check "a step of a user's cycle", sheet.Range("F2").Interior.ColorIndex, CLng(6)
 Check "leaves other cells alone", sheet.Range("F3").Interior.ColorIndex, CLng(-4142)
 
+' Hot keys: the registry of any library object in the process reaches the add-in's call-back.
+Dim registry, keys, entries, none
+Set registry = CreateObject("BRVBLib.iPublic").iHotKeys.Registry
+Set keys = registry.Callback("KestruneXL")
+Check "whose call-back it is", keys.BRProductName, "Kestrune"
+Check "its call-back for undo is another's", registry.Callback("Nobody") Is Nothing, True
+entries = Array("first", "second")
+keys.AddDefaultMacroArray entries
+Check "an array by reference grows by the commands", UBound(entries), CLng(104)
+Check "what was there stays", entries(0) & entries(1), "firstsecond"
+Check "a command's name", entries(2 + 20)(0), "Currency SmartCycle"
+Check "its key", entries(2 + 20)(2), "Ctrl+Shift+4"
+Check "seven values an entry", UBound(entries(104)), CLng(6)
+keys.AddDefaultMacroArray none
+Check "so does a variable that is empty", UBound(none), CLng(102)
+entries = "text"
+keys.AddDefaultMacroArray entries
+Check "what is no array stays", entries, "text"
+keys.UpdateExamplesFile True
+before = excel.ActiveWindow.DisplayGridlines
+Check "98 by the call-back runs", keys.RunMacro(98), True
+Check "which switched the gridlines", excel.ActiveWindow.DisplayGridlines, Not before
+Check "a key's command runs", registry.RunKey("ctrl-shift-g"), True
+Check "which switched them back", excel.ActiveWindow.DisplayGridlines, before
+Check "a command's key", registry.Key(20), "Ctrl+Shift+4"
+Check "what Excel does with it", registry.ExcelMeaning("Ctrl+$"), "gives the currency format with two decimals"
+Check "every command is in the table", UBound(registry.Table, 1) >= 103, True
+
 ' Calls that cannot succeed, each with its own error.
 On Error Resume Next
 commands.NoSuchMember
@@ -116,6 +144,8 @@ CheckError "an index outside", &H8002000B, ""
 Dim unregistered
 Set unregistered = CreateObject("KestruneXL.iNothing")
 CheckError "an unregistered class", 429, ""
+registry.SetKey 21, "Ctrl+Shift+4"
+CheckError "a key that another command has", &H80020009, "Currency SmartCycle (20)"
 Set unregistered = CreateObject("KestruneXL.iGlobal")
 CheckError "a class that only iPublic makes", 429, ""
 On Error Goto 0
@@ -124,6 +154,9 @@ On Error Goto 0
 Set others = Nothing
 Set commands = Nothing
 Set entry = Nothing
+Check "the call-back went with the add-in", registry.Callback("KestruneXL") Is Nothing, True
+Set keys = Nothing
+Set registry = Nothing
 Check "the host outlives the add-in", excel.Workbooks.Count, CLng(1)
 
 WScript.Echo checks & " checks, " & failures & " failed"

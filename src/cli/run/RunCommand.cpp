@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <iostream>
 #include <nlohmann/json.hpp>
+#include <optional>
 
 #include "automation/Conversion.h"
 #include "automation/Text.h"
@@ -14,6 +15,7 @@
 #include "cli/Failure.h"
 #include "cli/OpenWorkbook.h"
 #include "cli/run/HistorySteps.h"
+#include "cli/run/KeyStep.h"
 #include "cli/run/Select.h"
 #include "cli/run/Step.h"
 #include "forms/ConsolePresenter.h"
@@ -116,6 +118,7 @@ class Session {
         bool ran = true;
         std::string what;
         HistoryReport history;
+        std::optional<KeyReport> key;
         if (const auto* select = std::get_if<SelectStep>(&step)) {
             select_cells(book, select->target);
         } else if (const auto* request = std::get_if<RequestStep>(&step)) {
@@ -130,6 +133,10 @@ class Session {
             history = run_history_step(add_in, *undo_or_redo);
             what = history.what;
             ran = history.ran;
+        } else if (const auto* pressed = std::get_if<KeyStep>(&step)) {
+            key = run_key_step(book, pressed->key);
+            what = key->did;
+            ran = key->ran;
         }
         const std::int64_t calls = book.session().calls() - before;
         if (std::holds_alternative<SelectStep>(step)) {
@@ -141,6 +148,7 @@ class Session {
         if (options_.json) {
             ordered_json entry = describe(text, ran, calls);
             entry.update(history.facts);
+            if (key) entry.update({{"key", key->key}, {"did", key->did}});
             return entry;
         }
         tell(text, what, calls);

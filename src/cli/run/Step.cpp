@@ -9,6 +9,7 @@
 #include "cli/Failure.h"
 #include "core/CommandTable.h"
 #include "core/iGlobal.h"
+#include "keys/KeyText.h"
 
 namespace kestrune::cli {
 namespace {
@@ -45,9 +46,18 @@ std::optional<HistoryStep> parse_history(std::string_view text) {
     return step;
 }
 
+KeyStep parse_key(std::string_view text) {
+    const keys::KeyReading reading = keys::read_key(text);
+    if (!reading.ok()) throw UsageError(fmt::format("key:{}", keys::problem_line(text, reading)));
+    return {reading.key};
+}
+
 }  // namespace
 
 Step parse_step(std::string_view text) {
+    constexpr std::string_view key_mark = "key:";
+    if (automation::same_text(text.substr(0, key_mark.size()), key_mark))
+        return parse_key(text.substr(key_mark.size()));
     if (text.starts_with('@')) {
         if (text.size() == 1) throw UsageError("@: a selection needs a reference or a name, such as @Sheet1!B2:C5");
         return SelectStep{std::string(text.substr(1))};
@@ -58,10 +68,10 @@ Step parse_step(std::string_view text) {
     if (const auto history = parse_history(text)) return *history;
     const automation::Member* member = core::iGlobal::members().find(text);
     if (text.empty() || !member || !member->is_method || member->required_count > 0) {
-        throw UsageError(fmt::format(
-            "{}: is not a step; a step is a selection (@Sheet1!B2:C5), a command request (20.3), undo, redo, "
-            "history or one of iGlobal's members",
-            text));
+        throw UsageError(
+            fmt::format("{}: is not a step; a step is a selection (@Sheet1!B2:C5), a command request (20.3), a key "
+                        "(key:Ctrl+Shift+4), undo, redo, history or one of iGlobal's members",
+                        text));
     }
     return MemberStep{std::string(member->name)};
 }

@@ -6,6 +6,7 @@
 #include <variant>
 
 #include "core/CommandTable.h"
+#include "keys/Key.h"
 
 namespace kestrune::cli {
 
@@ -25,7 +26,10 @@ struct HistoryStep {
     Kind kind = Kind::Undo;
     std::int32_t count = 1;  // of presses; of lines in a list
 };
-using Step = std::variant<SelectStep, RequestStep, MemberStep, HistoryStep>;
+struct KeyStep {
+    keys::Key key;
+};
+using Step = std::variant<SelectStep, RequestStep, MemberStep, HistoryStep, KeyStep>;
 
 // Reads a step as typed. UsageError for what is none, and for a command that does not exist.
 Step parse_step(std::string_view text);

@@ -25,17 +25,30 @@ void diBRVBLib::set_application(const automation::ObjectRef& application) const 
 
 std::string diBRVBLib::constant(std::int32_t index) const { return to_text(call(Const, "Text", {index})); }
 
-void diBRVBLib::register_hot_keys(const automation::ObjectRef& callback) const {
-    const auto registry =
-        automation::to_object(automation::get(automation::to_required_object(iHotKeys()), "Registry"));
-    automation::call(*registry, "RegisterCallback", {client_name, callback});
+automation::ObjectRef diBRVBLib::hot_keys() const {
+    auto registry = automation::to_object(automation::get(automation::to_required_object(iHotKeys()), "Registry"));
+    automation::to_required_object(registry);
+    return registry;
 }
 
-void diBRVBLib::set_hot_key_product(std::string_view text) const {
-    const auto registry =
-        automation::to_object(automation::get(automation::to_required_object(iHotKeys()), "Registry"));
-    automation::put(*registry, "Product", text);
+void diBRVBLib::register_hot_keys(const automation::ObjectRef& callback) const {
+    automation::call(*hot_keys(), "RegisterCallback", {client_name, callback});
 }
+
+void diBRVBLib::set_hot_key_product(std::string_view text) const { automation::put(*hot_keys(), "Product", text); }
+
+void diBRVBLib::set_hot_key_macros(std::string_view workbook, std::string_view module) const {
+    automation::call(*hot_keys(), "SetMacros", {client_name, workbook, module});
+}
+
+void diBRVBLib::add_hot_key_macro(const HotKeyMacro& macro) const {
+    automation::call(*hot_keys(), "AddMacro",
+                     {client_name, macro.macro, macro.name, macro.description, macro.key, macro.group});
+}
+
+void diBRVBLib::bind_hot_keys() const { automation::call(*hot_keys(), "Bind"); }
+
+void diBRVBLib::show_hot_key_manager() const { automation::call(*hot_keys(), "ShowManager"); }
 
 bool diBRVBLib::shows_examples_at_start() const { return to_boolean(call(Product, "ShowExamplesAtStart")); }
 

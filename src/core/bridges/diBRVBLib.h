@@ -12,6 +12,15 @@
 
 namespace kestrune::core {
 
+// A macro of the companion workbook that can have a key.
+struct HotKeyMacro {
+    std::string_view macro;
+    std::string_view name;
+    std::string_view description;
+    std::string_view key;  // its own, "Ctrl+Shift+Z"; empty for none
+    std::string_view group;
+};
+
 // The general library: strings, product data, screen. The typed calls fail as automation calls do.
 class diBRVBLib : public LibraryBridge {
   public:
@@ -40,6 +49,12 @@ class diBRVBLib : public LibraryBridge {
     // of the product on whose behalf keys run.
     void register_hot_keys(const automation::ObjectRef& callback) const;
     void set_hot_key_product(std::string_view text) const;
+    // Where Excel finds the macros that keys run; macros that can have keys besides the commands; binding what has a
+    // key, from now on until the client is unregistered; the manager.
+    void set_hot_key_macros(std::string_view workbook, std::string_view module) const;
+    void add_hot_key_macro(const HotKeyMacro& macro) const;
+    void bind_hot_keys() const;
+    void show_hot_key_manager() const;
 
     // What the installation says: whether to show the examples workbook at this start, whether the tutorial is there,
     // and any value by name ("LessonPath"), Empty when it is absent.
@@ -114,6 +129,8 @@ class diBRVBLib : public LibraryBridge {
     void place_window(std::int32_t placement) const;
 
   private:
+    [[nodiscard]] automation::ObjectRef hot_keys() const;  // the registry
+
     enum Place : std::size_t {
         Const,
         Date,

@@ -15,6 +15,7 @@
 #include "host/objects/WindowsObject.h"
 #include "host/objects/WorkbooksObject.h"
 #include "host/objects/bars/CommandBarsObject.h"
+#include "keys/OnKeyText.h"
 
 namespace kestrune::host {
 namespace {
@@ -168,6 +169,15 @@ void ApplicationObject::on_repeat(const std::string& text, const std::string& pr
     session().on_repeat = waiting(text, procedure);
 }
 
+void ApplicationObject::on_key(const std::string& key, const std::optional<std::string>& procedure) {
+    const auto read = keys::read_on_key(key);
+    if (!read) refuse("Application.OnKey", "there is no key '" + key + "'");
+    if (procedure)
+        session().bound_keys.insert_or_assign(*read, *procedure);
+    else
+        session().bound_keys.erase(*read);
+}
+
 void ApplicationObject::set_calculation(std::int32_t mode) {
     if (mode != xlAutomatic && mode != xlCalculationManual && mode != xlCalculationSemiautomatic) {
         refuse("Application.Calculation", "there is no such calculation mode");
@@ -237,7 +247,8 @@ const MemberTable& ApplicationObject::members() {
         read_only<&A::usable_width>("UsableWidth", 39), read_only<&A::usable_height>("UsableHeight", 40),
         of_many<&A::run>("Run", 41, macro_and_thirty_arguments), read_only<&A::command_bars>("CommandBars", 42),
         method<&A::on_undo>("OnUndo", 43, "Text, Procedure"), method<&A::on_repeat>("OnRepeat", 44, "Text, Procedure"),
-        method<&A::undo>("Undo", 45), method<&A::repeat>("Repeat", 46));
+        method<&A::undo>("Undo", 45), method<&A::repeat>("Repeat", 46),
+        method<&A::on_key>("OnKey", 47, "Key, [Procedure]"));
     static constexpr MemberTable table("Application", rows);
     return table;
 }

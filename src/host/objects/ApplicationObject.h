@@ -44,6 +44,9 @@ class ApplicationObject final : public WindowPlaceObject<ApplicationObject>, pub
     void go_to(const Value& reference, const Value& scroll);
     // Runs a macro by its name with up to thirty arguments; what it answers.
     [[nodiscard]] Value run(std::span<const Value> arguments);
+    // Binds a key to a macro, to nothing (an empty text), or, left out, gives it back to Excel. Error 1004 for a key
+    // that there is not.
+    void on_key(const std::string& key, const std::optional<std::string>& procedure);
 
     // What Undo and Repeat run the next time, if nothing changes until then; an empty procedure takes it away.
     void on_undo(const std::string& text, const std::string& procedure);

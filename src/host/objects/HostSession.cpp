@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "automation/Text.h"
+#include "host/objects/MacroCall.h"
 #include "host/objects/Refusal.h"
 #include "host/objects/SheetObject.h"
 #include "host/objects/SheetOrder.h"
@@ -11,6 +12,15 @@
 namespace kestrune::host {
 
 using automation::Value;
+
+namespace {
+
+[[noreturn]] void refuse_macro(std::string_view name) {
+    refuse("Application.Run", "Cannot run the macro '" + std::string(name) +
+                                  "'. The macro may not be available in this workbook or all macros may be disabled.");
+}
+
+}  // namespace
 
 std::string full_name(const Workbook& workbook) {
     if (workbook.path.empty()) return workbook.name;
@@ -147,11 +157,7 @@ Value HostSession::run_macro(std::string_view name, std::span<const Value> argum
             macro = macros.find(workbooks_[i]->model->name, wanted.macro);
         }
     }
-    if (!macro) {
-        refuse("Application.Run", "Cannot run the macro '" + std::string(name) +
-                                      "'. The macro may not be available in this workbook or all macros may be "
-                                      "disabled.");
-    }
+    if (!macro) refuse_macro(name);
     // A copy, since the macro may replace itself.
     const Macro function = *macro;
     const Outside outside(*this);
@@ -161,7 +167,13 @@ Value HostSession::run_macro(std::string_view name, std::span<const Value> argum
 void HostSession::run_waiting(std::string_view member, std::optional<WaitingMacro>& waiting) {
     const auto macro = std::exchange(waiting, std::nullopt);
     if (!macro) refuse(member, "there is nothing that a macro could take back or repeat");
-    run_macro(macro->procedure, {});
+    run_call(macro->procedure);
+}
+
+Value HostSession::run_call(std::string_view text) {
+    const auto call = MacroCall::parse(text);
+    if (!call) refuse_macro(text);
+    return run_macro(call->name, call->arguments);
 }
 
 Sheet* HostSession::active_sheet() const {

@@ -16,6 +16,7 @@
 #include "host/objects/Listeners.h"
 #include "host/objects/Macros.h"
 #include "host/objects/WorkbookStore.h"
+#include "keys/Key.h"
 
 namespace kestrune::host {
 
@@ -106,6 +107,8 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     // Runs a macro as Application.Run does. Without a workbook in its name the active workbook's macros come first,
     // then those of add-ins, then those of the other workbooks. Error 1004 when there is none.
     automation::Value run_macro(std::string_view name, std::span<const automation::Value> arguments);
+    // Runs what a key or a control is to run (MacroCall.h), with its arguments.
+    automation::Value run_call(std::string_view text);
 
     // Runs what waits in on_undo or on_repeat, once. Error 1004 when nothing does.
     void run_waiting(std::string_view member, std::optional<WaitingMacro>& waiting);
@@ -122,6 +125,8 @@ class HostSession : public std::enable_shared_from_this<HostSession> {
     Macros macros;
     std::optional<WaitingMacro> on_undo;
     std::optional<WaitingMacro> on_repeat;
+    // What Application.OnKey bound: the macro of a key, or nothing for one that does nothing.
+    std::map<keys::Key, std::string> bound_keys;
     std::shared_ptr<CommandBars> command_bars;  // null until somebody asks for them
     WorkbookStore* store = nullptr;  // what Workbooks.Open opens; without one it finds nothing. Outlives the session
 

@@ -62,7 +62,7 @@ void ControlObject<Derived>::execute() {
     if (control.on_action.empty()) return;
     const Action action(*this->session().command_bars, control_);
     const std::string macro = control.on_action;  // the control may go while its action runs
-    this->session().run_macro(macro, {});
+    this->session().run_call(macro);
 }
 
 template class ControlObject<ButtonObject>;
