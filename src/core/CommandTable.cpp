@@ -7,10 +7,10 @@
 #include "core/WindowCommands.h"
 #include "excel/Constants.h"
 #include "settings/AutoColorCommands.h"
-#include "styles/commands/BorderCommands.h"
-#include "styles/commands/FontAndTextCommands.h"
 #include "smart/OutlineLevels.h"
 #include "smart/RowColumnCommands.h"
+#include "styles/commands/BorderCommands.h"
+#include "styles/commands/FontAndTextCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
