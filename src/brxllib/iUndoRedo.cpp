@@ -56,6 +56,14 @@ bool iUndoRedo::record(const automation::ObjectRef& range, std::int32_t aspects)
     return undo::Recorder(*library_).record(excel::Range(range), undo::Aspects::of_bits(aspects));
 }
 
+bool iUndoRedo::record_insertion(const automation::ObjectRef& lines, bool rows) {
+    return undo::Recorder(*library_).record_insertion(excel::Range(lines), rows);
+}
+
+bool iUndoRedo::record_deletion(const automation::ObjectRef& lines, bool rows) {
+    return undo::Recorder(*library_).record_deletion(excel::Range(lines), rows);
+}
+
 void iUndoRedo::end_step() { undo::Recorder(*library_).end(); }
 
 std::string iUndoRedo::undo_text() const { return first_of(library_->undo.undoable()); }
@@ -97,7 +105,9 @@ const MemberTable& iUndoRedo::members() {
         read_only<&U::undo_history>("UndoHistory", 10), read_only<&U::redo_history>("RedoHistory", 11),
         method<&U::clear>("Clear", 12), automation::property<&U::step_limit, &U::set_step_limit>("StepLimit", 13),
         automation::property<&U::memory_limit, &U::set_memory_limit>("MemoryLimit", 14),
-        read_only<&U::memory_used>("MemoryUsed", 15));
+        read_only<&U::memory_used>("MemoryUsed", 15),
+        method<&U::record_insertion>("RecordInsertion", 16, "Lines, Rows"),
+        method<&U::record_deletion>("RecordDeletion", 17, "Lines, Rows"));
     static constexpr MemberTable table("iUndoRedo", rows);
     return table;
 }

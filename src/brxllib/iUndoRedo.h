@@ -37,6 +37,9 @@ class iUndoRedo : public automation::Served<iUndoRedo> {
     bool begin_step(const std::string& name, std::int32_t reach, std::int32_t aspects);
     // Records cells that the open step is about to change. False as above; the step stays open. Fails when none is.
     bool record(const automation::ObjectRef& range, std::int32_t aspects);
+    // The same for whole rows, or whole columns, that are about to come in before those of a range, or to go with them.
+    bool record_insertion(const automation::ObjectRef& lines, bool rows);
+    bool record_deletion(const automation::ObjectRef& lines, bool rows);
     // Ends the step that was opened last. One that changed nothing leaves no trace.
     void end_step();
 

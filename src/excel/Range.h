@@ -32,14 +32,17 @@ class Range : public Facade<Range> {
         {"Columns", Access::get},
         {"Count", Access::get},
         {"CountLarge", Access::get},
+        {"CurrentArray", Access::get},
         {"Delete", Access::method, "Shift"},
         {"EntireColumn", Access::get},
         {"EntireRow", Access::get},
         {"Font", Access::get},
         {"FormatConditions", Access::get},
         {"Formula", Access::get_put},
+        {"FormulaArray", Access::get_put},
         {"FormulaR1C1", Access::get_put},
         {"Group", Access::method, "Start End By Periods"},
+        {"HasArray", Access::get},
         {"HasFormula", Access::get},
         {"Hidden", Access::get_put},
         {"HorizontalAlignment", Access::get_put},
@@ -100,6 +103,8 @@ class Range : public Facade<Range> {
     // Fails from 2,147,483,648 cells on.
     [[nodiscard]] std::int32_t Count() const { return get<std::int32_t>("Count"); }
     [[nodiscard]] double CountLarge() const { return get<double>("CountLarge"); }
+    // The whole array that a cell is part of; fails when it is part of none.
+    [[nodiscard]] Range CurrentArray() const { return get<Range>("CurrentArray"); }
     void Delete(std::int32_t shift) const { call("Delete", shift); }  // XlDeleteShiftDirection
     [[nodiscard]] Range EntireColumn() const { return get<Range>("EntireColumn"); }
     [[nodiscard]] Range EntireRow() const { return get<Range>("EntireRow"); }
@@ -109,9 +114,11 @@ class Range : public Facade<Range> {
     }
     [[nodiscard]] excel::Value Formula() const { return get("Formula"); }  // a 2-D array for several cells
     void Formula(excel::Value value) const { put("Formula", std::move(value)); }
+    void FormulaArray(std::string_view formula) const { put("FormulaArray", formula); }  // A1 or R1C1, with "="
     [[nodiscard]] excel::Value FormulaR1C1() const { return get("FormulaR1C1"); }
     void FormulaR1C1(excel::Value value) const { put("FormulaR1C1", std::move(value)); }
     void Group() const { call("Group"); }  // one outline level deeper
+    [[nodiscard]] excel::Value HasArray() const { return get("HasArray"); }
     [[nodiscard]] excel::Value HasFormula() const { return get("HasFormula"); }
     [[nodiscard]] excel::Value Hidden() const { return get("Hidden"); }  // whole rows or whole columns only
     void Hidden(excel::Value value) const { put("Hidden", std::move(value)); }

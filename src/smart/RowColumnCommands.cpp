@@ -30,7 +30,22 @@ struct Row {
     void (*first)(const Range& selection) = nullptr;
     void (*then)(const Range& selection) = nullptr;
     void (*outline)(const Outline& outline) = nullptr;
+    // Tells undo what is about to happen; false when the person does not want it then.
+    bool (*record)(const core::diBRXLLib& library, const Range& selection) = nullptr;
 };
+
+bool rows_come(const core::diBRXLLib& library, const Range& selection) {
+    return library.record_insertion(selection.EntireRow().object(), true);
+}
+bool columns_come(const core::diBRXLLib& library, const Range& selection) {
+    return library.record_insertion(selection.EntireColumn().object(), false);
+}
+bool rows_go(const core::diBRXLLib& library, const Range& selection) {
+    return library.record_deletion(selection.EntireRow().object(), true);
+}
+bool columns_go(const core::diBRXLLib& library, const Range& selection) {
+    return library.record_deletion(selection.EntireColumn().object(), false);
+}
 
 using enum RowColumnCommand;
 
@@ -38,10 +53,10 @@ using enum RowColumnCommand;
 constexpr auto table = std::to_array<Row>({
     {AutoFitRows, [](const Range& selection) { selection.Rows().AutoFit(); }},
     {ResetColumnWidths, reset_column_widths},
-    {InsertRows, [](const Range& selection) { selection.EntireRow().Insert(); }},
-    {InsertColumns, [](const Range& selection) { selection.EntireColumn().Insert(); }},
-    {DeleteRows, [](const Range& selection) { selection.EntireRow().Delete(excel::xlUp); }},
-    {DeleteColumns, [](const Range& selection) { selection.EntireColumn().Delete(excel::xlToLeft); }},
+    {InsertRows, [](const Range& selection) { selection.EntireRow().Insert(); }, nullptr, nullptr, rows_come},
+    {InsertColumns, [](const Range& selection) { selection.EntireColumn().Insert(); }, nullptr, nullptr, columns_come},
+    {DeleteRows, [](const Range& selection) { selection.EntireRow().Delete(excel::xlUp); }, nullptr, nullptr, rows_go},
+    {DeleteColumns, [](const Range& selection) { selection.EntireColumn().Delete(excel::xlToLeft); }, nullptr, nullptr, columns_go},
     {GroupRows, [](const Range& selection) { selection.Rows().Group(); }},
     {GroupColumns, [](const Range& selection) { selection.Columns().Group(); }},
     // Rows of a closed group would stay hidden without it.
@@ -83,6 +98,10 @@ void run_row_column_command(core::SharedState& shared, RowColumnCommand command)
     attempt.assign(object, [&] { return application.Selection(); });
     if (!Range::is(object)) return;
     const Range selection(object);
+    bool wanted = true;
+    // A library that keeps no record is no reason to do nothing.
+    if (row.record) attempt.assign(wanted, [&] { return row.record(shared.spreadsheet(), selection); });
+    if (!wanted) return;
     attempt([&] { row.first(selection); });
     if (row.then) attempt([&] { row.then(selection); });
 }

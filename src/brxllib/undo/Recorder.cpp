@@ -8,6 +8,8 @@
 #include "automation/AutomationError.h"
 #include "automation/ResumeNext.h"
 #include "brxllib/undo/CellsChange.h"
+#include "brxllib/undo/DeletedLines.h"
+#include "brxllib/undo/InsertedLines.h"
 #include "brxllib/undo/NumberFormatsChange.h"
 #include "excel/Constants.h"
 #include "excel/Workbook.h"
@@ -23,6 +25,8 @@ namespace {
 
 // Before and after: a change is recorded twice.
 constexpr std::size_t records_of_a_change = 2;
+
+constexpr std::string_view too_much = "it changes more than undo can hold";
 
 }  // namespace
 
@@ -106,17 +110,46 @@ bool Recorder::record_all(const Target& target, Aspects aspects) {
     return true;
 }
 
-bool Recorder::record(const excel::Range& cells, Aspects aspects) {
-    Stack& stack = library_.undo;
+bool Recorder::records() const {
+    const Stack& stack = library_.undo;
     if (!stack.open()) {
         throw AutomationError(automation::hresult::excel_error, "iUndoRedo.Record", "no step is open");
     }
-    if (stack.given_up() || aspects.empty() || stack.limits().steps == 0) return true;
-    if (stack.open()->place.empty()) stack.open()->place = place_of(cells);
+    return !stack.given_up() && stack.limits().steps > 0;
+}
+
+std::size_t Recorder::free_bytes() const {
+    const Stack& stack = library_.undo;
     const std::size_t open_bytes = stack.open()->bytes() * records_of_a_change;
     const std::size_t most = stack.limits().bytes;
-    const std::size_t free = open_bytes < most ? (most - open_bytes) / records_of_a_change : 0;
-    constexpr std::string_view too_much = "it changes more than undo can hold";
+    return open_bytes < most ? (most - open_bytes) / records_of_a_change : 0;
+}
+
+bool Recorder::record_insertion(const excel::Range& lines, bool rows) {
+    if (!records()) return true;
+    Stack& stack = library_.undo;
+    if (stack.open()->place.empty()) stack.open()->place = place_of(lines);
+    stack.add(std::make_unique<InsertedLines>(library_.application, lines, rows));
+    return true;
+}
+
+bool Recorder::record_deletion(const excel::Range& lines, bool rows) {
+    if (!records()) return true;
+    Stack& stack = library_.undo;
+    if (stack.open()->place.empty()) stack.open()->place = place_of(lines);
+    auto change = DeletedLines::take(library_.application, lines, rows, free_bytes(), library_.trace);
+    if (!change) return give_up(too_much);
+    if (!change->irreplaceable().empty()) return give_up(change->irreplaceable().front());
+    stack.add(std::move(change));
+    return true;
+}
+
+bool Recorder::record(const excel::Range& cells, Aspects aspects) {
+    if (!records() || aspects.empty()) return true;
+    Stack& stack = library_.undo;
+    if (stack.open()->place.empty()) stack.open()->place = place_of(cells);
+    const std::size_t most = stack.limits().bytes;
+    const std::size_t free = free_bytes();
     if (Snapshot::estimate(cells, aspects) > free) return give_up(too_much);
     auto before = Snapshot::take(library_.application, cells, aspects, free, library_.trace);
     if (!before) return give_up(too_much);

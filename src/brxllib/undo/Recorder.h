@@ -24,6 +24,9 @@ class Recorder {
     // Records cells that the open step changes besides. False as above; the step stays open with what it has on record,
     // and what is not done yet must not be done.
     bool record(const excel::Range& cells, Aspects aspects);
+    // Records whole rows, or columns, that are about to come in before `lines`, or to go with them. As above.
+    bool record_insertion(const excel::Range& lines, bool rows);
+    bool record_deletion(const excel::Range& lines, bool rows);
     // Ends the step.
     void end() { library_.undo.end(); }
 
@@ -44,6 +47,9 @@ class Recorder {
         std::vector<excel::Range> ranges;
         std::string place;
     };
+    // Whether the open step takes records; fails when none is open.
+    [[nodiscard]] bool records() const;
+    [[nodiscard]] std::size_t free_bytes() const;
     [[nodiscard]] Target target_of(Reach reach) const;
     bool record_all(const Target& target, Aspects aspects);
     [[nodiscard]] bool tell(const Outcome& outcome, std::string_view what) const;

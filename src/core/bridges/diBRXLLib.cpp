@@ -245,6 +245,14 @@ bool diBRXLLib::record(const ObjectRef& range, Aspects aspects) const {
     return automation::to_boolean(call(UndoRedo, "Record", {range, static_cast<std::int32_t>(aspects)}));
 }
 
+bool diBRXLLib::record_insertion(const ObjectRef& lines, bool rows) const {
+    return automation::to_boolean(call(UndoRedo, "RecordInsertion", {lines, rows}));
+}
+
+bool diBRXLLib::record_deletion(const ObjectRef& lines, bool rows) const {
+    return automation::to_boolean(call(UndoRedo, "RecordDeletion", {lines, rows}));
+}
+
 void diBRXLLib::end_step() const { call(UndoRedo, "EndStep"); }
 void diBRXLLib::set_undo_point() const { call(UndoRedo, "SetUndoPoint"); }
 void diBRXLLib::undo() const { call(UndoRedo, "Undo"); }

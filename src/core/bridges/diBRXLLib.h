@@ -165,6 +165,9 @@ class diBRXLLib : public LibraryBridge {
     [[nodiscard]] bool begin_step(std::string_view name, const Touches& touches) const;
     // Cells that the open step changes besides. False as above; the step stays open.
     [[nodiscard]] bool record(const automation::ObjectRef& range, Aspects aspects) const;
+    // Whole rows, or whole columns, that are about to come in before those of a range, or to go with them.
+    [[nodiscard]] bool record_insertion(const automation::ObjectRef& lines, bool rows) const;
+    [[nodiscard]] bool record_deletion(const automation::ObjectRef& lines, bool rows) const;
     void end_step() const;
     // Records the selection as the beginning of a step that ends with the next one, with undo or redo.
     void set_undo_point() const;

@@ -61,7 +61,8 @@ const MemberTable& RangeObject::members() {
         method<&R::merge>("Merge", 64, "[Across]"), method<&R::un_merge>("UnMerge", 65),
         read_only<&R::hyperlinks>("Hyperlinks", 66), method<&R::group>("Group", 67, "[Start], [End], [By], [Periods]"),
         method<&R::ungroup>("Ungroup", 68), method<&R::special_cells>("SpecialCells", 69, "Type, [Value]"),
-        method<&R::insert>("Insert", 70, "[Shift], [CopyOrigin]"), method<&R::remove>("Delete", 71, "[Shift]"));
+        method<&R::insert>("Insert", 70, "[Shift], [CopyOrigin]"), method<&R::remove>("Delete", 71, "[Shift]"),
+        method<&R::auto_fit>("AutoFit", 72));
     static constexpr MemberTable table("Range", rows);
     return table;
 }

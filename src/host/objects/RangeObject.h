@@ -130,6 +130,8 @@ class RangeObject final : public HostObject<RangeObject> {
     // and whatever could not follow. Answers True.
     bool insert(const Value& shift, const Value& copy_origin);
     bool remove(const Value& shift);
+    // Rows as tall, or columns as wide, as what they hold: RangeAutoFit.cpp.
+    void auto_fit();
 
     [[nodiscard]] Value merge_cells() const;
     void set_merge_cells(bool on);
@@ -148,6 +150,8 @@ class RangeObject final : public HostObject<RangeObject> {
     void write_format(std::string_view member, const std::function<void(CellFormat&)>& change) const {
         cells_.restyle(member, [&](StyleId id) { return cells_.styles().with_format(id, change); });
     }
+    void fit_rows(const Area& area);
+    void fit_columns(const Area& area);
     void change_outline(std::string_view member, std::int32_t step);
     // Whether the range counts as columns where rows and columns have the same property.
     [[nodiscard]] bool of_columns() const;
