@@ -3,6 +3,7 @@
 #include "automation/Conversion.h"
 #include "automation/ResumeNext.h"
 #include "brxllib/autocolor/AutoColor.h"
+#include "brxllib/autocolor/BlackFonts.h"
 
 namespace kestrune::brxllib {
 
@@ -41,8 +42,22 @@ void iAutoColor::run_worksheet(const std::optional<ObjectRef>& sheet) {
 }
 
 void iAutoColor::run_workbook(const std::optional<ObjectRef>& workbook) {
-    const excel::Workbook which = workbook ? excel::Workbook(*workbook) : library_->application.ActiveWorkbook();
-    AutoColor(*library_, settings_).color(which);
+    AutoColor(*library_, settings_).color(workbook_or_active(workbook));
+}
+
+bool iAutoColor::toggle_black_fonts(const std::optional<ObjectRef>& workbook) {
+    const excel::Workbook which = workbook_or_active(workbook);
+    const BlackFonts fonts(*library_);
+    fonts.toggle(which);
+    return fonts.in(which);
+}
+
+bool iAutoColor::has_black_fonts(const std::optional<ObjectRef>& workbook) const {
+    return BlackFonts(*library_).in(workbook_or_active(workbook));
+}
+
+excel::Workbook iAutoColor::workbook_or_active(const std::optional<ObjectRef>& workbook) const {
+    return workbook ? excel::Workbook(*workbook) : library_->application.ActiveWorkbook();
 }
 
 const MemberTable& iAutoColor::members() {
@@ -62,7 +77,9 @@ const MemberTable& iAutoColor::members() {
         automation::read_only<&A::smart_cycle_name>("SmartCycleName", 11), method<&A::toggle>("Toggle", 12),
         method<&A::run_selection>("RunSelection", 13), method<&A::run_worksheet>("RunWorksheet", 14, "[Worksheet]"),
         method<&A::run_workbook>("RunWorkbook", 15, "[Workbook]"), method<&A::run_range>("RunRange", 16, "Range"),
-        method<&A::update_ctrl_enter>("UpdateCtrlEnter", 17, "WhileOn, WhileOff"));
+        method<&A::update_ctrl_enter>("UpdateCtrlEnter", 17, "WhileOn, WhileOff"),
+        method<&A::toggle_black_fonts>("ToggleBlackFonts", 18, "[Workbook]"),
+        method<&A::has_black_fonts>("HasBlackFonts", 19, "[Workbook]"));
     static constexpr MemberTable table("iAutoColor", rows);
     return table;
 }

@@ -46,8 +46,15 @@ class iAutoColor : public automation::Served<iAutoColor> {
     // The active one unless given.
     void run_worksheet(const std::optional<automation::ObjectRef>& sheet);
     void run_workbook(const std::optional<automation::ObjectRef>& workbook);
+    // Shows the active workbook, unless another is given, in black fonts or in its colours again; whether it is in
+    // black now.
+    bool toggle_black_fonts(const std::optional<automation::ObjectRef>& workbook);
+    [[nodiscard]] bool has_black_fonts(const std::optional<automation::ObjectRef>& workbook) const;
     // The name of the font-colour SmartCycle whose colours are left alone.
     [[nodiscard]] std::string smart_cycle_name() const { return std::string(respected_smart_cycle); }
+
+    // The active one unless given.
+    [[nodiscard]] excel::Workbook workbook_or_active(const std::optional<automation::ObjectRef>& workbook) const;
 
     std::shared_ptr<Library> library_;
     AutoColorSettings settings_;

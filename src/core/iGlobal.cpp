@@ -74,6 +74,11 @@ void iGlobal::run_auto_color() const {
     arm_undo(*shared);
 }
 
+void iGlobal::toggle_black_fonts() const {
+    const auto shared = shared_;
+    settings::toggle_black_fonts(*shared);
+}
+
 void iGlobal::show_examples_workbook() const {
     const auto shared = shared_;
     core::show_examples_workbook(*shared);
@@ -107,7 +112,8 @@ const MemberTable& iGlobal::members() {
         automation::method<&iGlobal::run_macro>("RunMacro", id("RunMacro"), "Request"),
         automation::read_only<&iGlobal::lesson_path>("LessonPath", id("LessonPath")),
         automation::method<&iGlobal::apply_smart_cycle_style>("ApplySmartCycleStyle", id("ApplySmartCycleStyle"),
-                                                              "CycleNumber, Position, Range"));
+                                                              "CycleNumber, Position, Range"),
+        automation::method<&iGlobal::toggle_black_fonts>("ToggleBlackFonts", id("ToggleBlackFonts")));
     static constexpr MemberTable table("iGlobal", rows);
     return table;
 }

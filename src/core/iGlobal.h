@@ -38,6 +38,7 @@ class iGlobal : public automation::Served<iGlobal> {
 
     void toggle_auto_color() const;
     void run_auto_color() const;  // on the selection, whatever the moment
+    void toggle_black_fonts() const;
 
     std::shared_ptr<SharedState> shared_;
 };

@@ -72,6 +72,7 @@ inline constexpr auto iglobal_interface = std::to_array<std::string_view>({
     "ShowLessonErrMsg",
     "CustomSmartCycleInfo",
     "ApplySmartCycleStyle",
+    "ToggleBlackFonts",
 });
 
 // The dispatch id of a member; 0 when the interface has no such member.

@@ -58,6 +58,7 @@ inline constexpr std::int32_t xlColorIndexAutomatic = -4105;
 
 // XlFormatConditionType and XlFormatConditionOperator
 inline constexpr std::int32_t xlCellValue = 1;
+inline constexpr std::int32_t xlExpression = 2;
 inline constexpr std::int32_t xlBetween = 1;
 inline constexpr std::int32_t xlGreater = 5;
 inline constexpr std::int32_t xlLess = 6;

@@ -19,6 +19,8 @@ class FormatCondition : public Facade<FormatCondition> {
         {"Formula2", Access::get},
         {"Interior", Access::get},
         {"Operator", Access::get},
+        {"SetFirstPriority", Access::method},
+        {"StopIfTrue", Access::get_put},
         {"Type", Access::get},
     });
     using Facade::Facade;
@@ -30,7 +32,11 @@ class FormatCondition : public Facade<FormatCondition> {
     [[nodiscard]] std::string Formula2() const { return get<std::string>("Formula2"); }
     [[nodiscard]] excel::Interior Interior() const { return get<excel::Interior>("Interior"); }
     [[nodiscard]] std::int32_t Operator() const { return get<std::int32_t>("Operator"); }  // XlFormatConditionOperator
-    [[nodiscard]] std::int32_t Type() const { return get<std::int32_t>("Type"); }          // XlFormatConditionType
+    // Has it tried before all others of its sheet.
+    void SetFirstPriority() const { call("SetFirstPriority"); }
+    // Whether those of lower priority are not tried where this one holds.
+    void StopIfTrue(bool stop) const { put("StopIfTrue", stop); }
+    [[nodiscard]] std::int32_t Type() const { return get<std::int32_t>("Type"); }  // XlFormatConditionType
 };
 
 }  // namespace kestrune::excel

@@ -18,6 +18,11 @@ void toggle_auto_color(SharedState& shared) {
     attempt([&] { shared.spreadsheet().toggle_auto_color(); });
 }
 
+void toggle_black_fonts(SharedState& shared) {
+    const ResumeNext attempt(shared.trace);
+    attempt([&] { shared.spreadsheet().toggle_black_fonts(); });
+}
+
 void auto_color_selection(SharedState& shared, std::int32_t) {
     const ResumeNext attempt(shared.trace);
     attempt([&] { shared.spreadsheet().auto_color_selection(); });

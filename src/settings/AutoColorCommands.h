@@ -12,6 +12,9 @@ void hand_over_auto_color(core::SharedState& shared);
 // Switches colouring of cells as they change on or off; the library keeps which.
 void toggle_auto_color(core::SharedState& shared);
 
+// Shows the active workbook in black fonts, or in its colours again.
+void toggle_black_fonts(core::SharedState& shared);
+
 // Command bodies: colour cells by what they hold. What fails leaves the workbook as it was and shows nothing.
 void auto_color_selection(core::SharedState& shared, std::int32_t);
 void auto_color_worksheet(core::SharedState& shared, std::int32_t);  // the active one

@@ -231,6 +231,8 @@ void diBRXLLib::auto_color_selection() const { call(AutoColor, "RunSelection"); 
 void diBRXLLib::auto_color_worksheet() const { call(AutoColor, "RunWorksheet"); }
 void diBRXLLib::auto_color_workbook() const { call(AutoColor, "RunWorkbook"); }
 
+void diBRXLLib::toggle_black_fonts() const { call(AutoColor, "ToggleBlackFonts"); }
+
 void diBRXLLib::update_ctrl_enter(bool while_on, bool while_off) const {
     call(AutoColor, "UpdateCtrlEnter", {while_on, while_off});
 }

@@ -157,6 +157,8 @@ class diBRXLLib : public LibraryBridge {
     void auto_color_selection() const;
     void auto_color_worksheet() const;  // the active one
     void auto_color_workbook() const;   // the active one
+    // Shows the active workbook in black fonts, or in its colours again.
+    void toggle_black_fonts() const;
     // Whether fills of a whole selection by Ctrl+Enter are coloured while AutoColor is on, and while it is off.
     void update_ctrl_enter(bool while_on, bool while_off) const;
 
