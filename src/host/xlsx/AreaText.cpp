@@ -29,7 +29,10 @@ std::string areas_text(const std::vector<formula::Area>& areas) {
     std::string text;
     for (const auto& area : areas) {
         if (!text.empty()) text += ' ';
-        text += formula::area_text(area);
+        formula::append_cell(text, area.top_left());
+        if (area.single_cell()) continue;
+        text += ':';
+        formula::append_cell(text, {area.last_row, area.last_column});
     }
     return text;
 }
