@@ -12,7 +12,7 @@ _kestrune() {
     if [[ $word == -* ]]; then
         case $command in
             run) COMPREPLY=($(compgen -W "-o --output --in-place --answer --json --trace --help" -- "$word")) ;;
-            show) COMPREPLY=($(compgen -W "--html --color --help" -- "$word")) ;;
+            show) COMPREPLY=($(compgen -W "--html --color --classes --json --help" -- "$word")) ;;
             commands) COMPREPLY=($(compgen -W "--json --html --help" -- "$word")) ;;
             cell | diff | keys) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
         esac

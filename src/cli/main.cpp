@@ -82,6 +82,8 @@ void add_show(CLI::App& app, ShowOptions& options) {
     command->add_option("--html", options.html, "Write a page instead of drawing in the terminal");
     command->add_option("--color", options.color, "Colours in the terminal: auto, always or never")
         ->capture_default_str();
+    command->add_flag("--classes", options.classes, "Show what AutoColor sees in cells instead of their colours");
+    command->add_flag("--json", options.json, "The classes as JSON, one object a cell");
     command->callback([&options] { show(options); });
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <unordered_map>
 
 #include "cli/show/Appearance.h"
@@ -187,11 +188,12 @@ std::string inner(const Appearance& look) {
 
 class SheetPage {
   public:
-    SheetPage(host::Sheet& sheet, const Area& area, CssClasses& classes)
-        : sheet_(sheet), area_(area), classes_(classes), looks_(sheet) {
+    SheetPage(host::Sheet& sheet, const Area& area, CssClasses& css, const Classify& classify)
+        : sheet_(sheet), area_(area), css_(css), looks_(sheet) {
         area_.last_row = std::min(area_.last_row, area_.first_row + most_rows - 1);
         area_.last_column = std::min(area_.last_column, area_.first_column + most_columns - 1);
         cut_ = area_ != area;
+        if (classify) classes_ = classify(sheet, area_);
         for (std::int32_t row = area_.first_row; row <= area_.last_row; ++row) {
             if (sheet_.row_height(row) > 0) rows_.push_back(row);
         }
@@ -203,7 +205,8 @@ class SheetPage {
     std::string table() {
         const OutlineGutter rows_gutter = row_gutter(sheet_, rows_);
         const OutlineGutter columns_gutter = column_gutter(sheet_, columns_);
-        out_ = fmt::format("<table style='zoom:{}%'><colgroup>", sheet_.view().zoom);
+        if (classes_) out_ = legend();
+        fmt::format_to(std::back_inserter(out_), "<table style='zoom:{}%'><colgroup>", sheet_.view().zoom);
         for (int i = 0; i < rows_gutter.levels; ++i) out_ += "<col style='width:16px'>";
         out_ += "<col style='width:44px'>";
         for (const std::int32_t column : columns_) {
@@ -241,6 +244,26 @@ class SheetPage {
     }
 
   private:
+    [[nodiscard]] std::string legend() const {
+        std::string out = "<p class=legend>";
+        for_each_class(*classes_, [&](const ClassLook& look, std::int64_t count) {
+            fmt::format_to(std::back_inserter(out), "<span style='background:{}'>{}</span> {} ", hex(look.fill),
+                           look.name, count);
+        });
+        return out + "</p>\n";
+    }
+
+    // Has a cell look like its class, and says it to who points at it.
+    std::string classified(Appearance& look, Position at) const {
+        const brxllib::CellClass cell = classes_->at(at);
+        look.font_color = 0;
+        look.fill.reset();
+        if (cell == brxllib::CellClass::Empty) return {};
+        look.fill = look_of(cell).fill;
+        const std::string formula = sheet_.formula_at(at);
+        return fmt::format(" title=\"{}{}{}\"", look_of(cell).name, formula.empty() ? "" : ": =", escaped(formula));
+    }
+
     void mark(OutlineMark mark, char direction) {
         switch (mark) {
             case OutlineMark::None:
@@ -261,23 +284,25 @@ class SheetPage {
     void row_cells(std::int32_t row) {
         for (std::size_t i = 0; i < columns_.size(); ++i) {
             const Position at{row, columns_[i]};
-            std::string spans;
+            std::string attributes;
             Appearance look = looks_.at(at);
-            if (const auto merged = sheet_.merge_at(at)) {
+            const auto merged = sheet_.merge_at(at);
+            if (merged) {
                 if (!leads(*merged, at)) continue;
-                spans = span_attributes(*merged);
+                attributes = span_attributes(*merged);
                 const Appearance far = looks_.at({merged->last_row, merged->last_column});
                 look.right = far.right;
                 look.bottom = far.bottom;
             }
+            if (classes_) attributes += classified(look, at);
             std::string css = cell_css(look, sheet_.view().show_gridlines);
             if (row == sheet_.view().frozen_rows && look.bottom.style == host::LineStyle::None)
                 css += "border-bottom:1px solid #7f7f7f;";
             if (at.column == sheet_.view().frozen_columns && look.right.style == host::LineStyle::None)
                 css += "border-right:1px solid #7f7f7f;";
             // A long text runs over blank neighbours; anything else ends where its cell ends.
-            const bool clipped = !look.blank && !(look.runs_over() && spans.empty() && room_beside(at, look, i));
-            fmt::format_to(std::back_inserter(out_), "<td class={}{}>", classes_.name_of(css), spans);
+            const bool clipped = !look.blank && !(look.runs_over() && !merged && room_beside(at, look, i));
+            fmt::format_to(std::back_inserter(out_), "<td class={}{}>", css_.name_of(css), attributes);
             if (!look.blank) {
                 const std::string text = turned(inner(look), look.alignment.rotation);
                 out_ += clipped ? fmt::format("<div>{}</div>", text) : text;
@@ -309,20 +334,22 @@ class SheetPage {
 
     host::Sheet& sheet_;
     Area area_;
-    CssClasses& classes_;
+    CssClasses& css_;
     SheetAppearance looks_;
+    std::optional<Classes> classes_;  // when fills show them
     bool cut_ = false;
     std::vector<std::int32_t> rows_, columns_;  // those in sight
     std::string out_;
 };
 
-std::string page(const std::string& title, const std::vector<std::pair<host::Sheet*, Area>>& sheets) {
-    CssClasses classes;
+std::string page(const std::string& title, const std::vector<std::pair<host::Sheet*, Area>>& sheets,
+                 const Classify& classify) {
+    CssClasses css;
     std::string body, tabs, switches;
     for (std::size_t i = 0; i < sheets.size(); ++i) {
         const auto& [sheet, area] = sheets[i];
         fmt::format_to(std::back_inserter(body), "<input type=radio name=sheet id=t{0}{1}>\n<section>{2}</section>\n",
-                       i, i == 0 ? " checked" : "", SheetPage(*sheet, area, classes).table());
+                       i, i == 0 ? " checked" : "", SheetPage(*sheet, area, css, classify).table());
         const std::string color = sheet->defaults().tab_color
                                       ? fmt::format(" style='border-bottom:3px solid {}'",
                                                     hex(sheet->workbook().rgb_of(*sheet->defaults().tab_color, 0)))
@@ -336,12 +363,12 @@ std::string page(const std::string& title, const std::vector<std::pair<host::She
     return fmt::format(
         "<!DOCTYPE html>\n<html lang=en><head><meta charset=utf-8><title>{}</title>\n<style>\n{}{}{}</style></head>\n"
         "<body><header>{}</header>\n{}<nav>{}</nav></body></html>\n",
-        escaped(title), page_style, classes.rules(), switches, escaped(title), body, tabs);
+        escaped(title), page_style, css.rules(), switches, escaped(title), body, tabs);
 }
 
 }  // namespace
 
-std::string html_page(host::Workbook& workbook) {
+std::string html_page(host::Workbook& workbook, const Classify& classify) {
     std::vector<std::pair<host::Sheet*, Area>> sheets;
     for (const auto& sheet : workbook.sheets()) {
         if (sheet->kind() != host::SheetKind::Worksheet || sheet->visibility != host::Visibility::Visible) continue;
@@ -352,11 +379,11 @@ std::string html_page(host::Workbook& workbook) {
         area.last_column = std::clamp(area.last_column + 2, 8, formula::max_columns);
         sheets.emplace_back(sheet.get(), area);
     }
-    return page(workbook.name, sheets);
+    return page(workbook.name, sheets, classify);
 }
 
-std::string html_page(host::Workbook& workbook, host::Sheet& sheet, const Area& area) {
-    return page(workbook.name, {{&sheet, area}});
+std::string html_page(host::Workbook& workbook, host::Sheet& sheet, const Area& area, const Classify& classify) {
+    return page(workbook.name, {{&sheet, area}}, classify);
 }
 
 }  // namespace kestrune::cli

@@ -27,6 +27,8 @@ tr.g{height:16px}
 .stack{writing-mode:vertical-rl;text-orientation:upright}
 .turn{display:inline-block}
 .ends{display:flex;justify-content:space-between}
+.legend{margin:6px 10px}
+.legend span{padding:1px 8px;border:1px solid #999;margin-left:10px}
 .cut{color:#666;padding:8px}
 )";
 

@@ -5,14 +5,19 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <nlohmann/json.hpp>
+#include <optional>
 
 #include "cli/Failure.h"
 #include "cli/OpenWorkbook.h"
 #include "cli/run/Select.h"
+#include "cli/show/Classes.h"
 #include "cli/show/HtmlPage.h"
 #include "cli/show/TerminalGrid.h"
 #include "excel/Worksheet.h"
+#include "formula/Column.h"
 #include "formula/Selection.h"
+#include "formula/SheetName.h"
 #include "host/xlsx/package/AtomicFile.h"
 
 namespace kestrune::cli {
@@ -75,26 +80,58 @@ bool wants_color(const std::string& choice) {
     return isatty(STDOUT_FILENO) != 0;
 }
 
+excel::Worksheet worksheet_of(const OpenWorkbook& book, const host::Sheet& sheet) {
+    return book.application().ActiveWorkbook().Worksheets().Item(std::string_view(sheet.name()));
+}
+
+// One object a cell that holds anything, row by row.
+void print_classes(const OpenWorkbook& book, const host::Sheet& sheet, const Area& area) {
+    const Classes classes(worksheet_of(book, sheet), area);
+    const std::string prefix = formula::quoted_sheet(sheet.name()) + "!";
+    const char* separator = "[\n";
+    for (std::int32_t row = area.first_row; row <= area.last_row; ++row) {
+        for (std::int32_t column = area.first_column; column <= area.last_column; ++column) {
+            const brxllib::CellClass cell = classes.at({row, column});
+            if (cell == brxllib::CellClass::Empty) continue;
+            const nlohmann::ordered_json entry{
+                {"Address", fmt::format("{}${}${}", prefix, formula::column_letters(column), row)},
+                {"Class", look_of(cell).name}};
+            fmt::print("{}{}", separator, entry.dump());
+            separator = ",\n";
+        }
+    }
+    fmt::print("{}]\n", separator[0] == '[' ? "[" : "\n");
+}
+
+void write_page(OpenWorkbook& book, const ShowOptions& options) {
+    Classify classify;
+    if (options.classes) {
+        classify = [&](host::Sheet& sheet, const Area& area) { return Classes(worksheet_of(book, sheet), area); };
+    }
+    std::string page;
+    if (options.range) {
+        const Shown shown = find_area(book, options.range);
+        page = html_page(book.model(), *shown.sheet, shown.area, classify);
+    } else {
+        page = html_page(book.model(), classify);
+    }
+    host::AtomicFile file(*options.html);
+    file.write(page);
+    file.commit();
+}
+
 }  // namespace
 
 void show(const ShowOptions& options) {
     const bool color = wants_color(options.color);
+    if (options.json && !options.classes) throw UsageError("--json: show has nothing but --classes for programs");
     OpenWorkbook book(options.workbook);
-    if (options.html) {
-        std::string page;
-        if (options.range) {
-            const Shown shown = find_area(book, options.range);
-            page = html_page(book.model(), *shown.sheet, shown.area);
-        } else {
-            page = html_page(book.model());
-        }
-        host::AtomicFile file(*options.html);
-        file.write(page);
-        file.commit();
-        return;
-    }
+    if (options.html) return write_page(book, options);
     const Shown shown = find_area(book, options.range);
-    fmt::print("{}", terminal_grid(*shown.sheet, shown.area, color));
+    if (options.json) return print_classes(book, *shown.sheet, options.range ? shown.area : shown.sheet->used_area());
+    std::optional<Classes> classes;
+    if (options.classes) classes.emplace(worksheet_of(book, *shown.sheet), shown.area);
+    fmt::print("{}", terminal_grid(*shown.sheet, shown.area, color, classes ? &*classes : nullptr));
     if (shown.cut) fmt::print(stderr, "the sheet goes on; name a range to see more\n");
 }
 

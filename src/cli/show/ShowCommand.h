@@ -10,9 +10,11 @@ struct ShowOptions {
     std::optional<std::string> range;
     std::optional<std::string> html;  // a page is written here
     std::string color = "auto";       // auto, always, never
+    bool classes = false;             // what cells hold instead of their colours
+    bool json = false;                // the classes alone, for programs
 };
 
-// `kestrune show`: a sheet drawn in the terminal, or the workbook as a page.
+// `kestrune show`: a sheet drawn in the terminal, or the workbook as a page; with classes also as JSON.
 void show(const ShowOptions& options);
 
 }  // namespace kestrune::cli

@@ -67,7 +67,8 @@ std::string painted(const std::string& text, const Appearance& look) {
 
 class Grid {
   public:
-    Grid(host::Sheet& sheet, const formula::Area& area, bool color) : sheet_(sheet), color_(color), looks_(sheet) {
+    Grid(host::Sheet& sheet, const formula::Area& area, bool color, const Classes* classes)
+        : sheet_(sheet), color_(color), classes_(classes), looks_(sheet) {
         for (std::int32_t row = area.first_row; row <= area.last_row; ++row) {
             if (sheet.row_height(row) > 0) rows_.push_back(row);
         }
@@ -75,7 +76,7 @@ class Grid {
             const double width = sheet.column_width(column);
             if (width <= 0) continue;
             columns_.push_back(column);
-            widths_.push_back(std::clamp(static_cast<int>(std::lround(width)), 2, widest));
+            widths_.push_back(std::clamp(static_cast<int>(std::lround(width)), 2, widest) + mark_width());
         }
     }
 
@@ -97,11 +98,31 @@ class Grid {
             while (out.ends_with(' ')) out.pop_back();
             out += '\n';
         }
+        if (classes_) out += legend();
         return out;
     }
 
   private:
     static constexpr int number_width = 7;
+
+    // Room in front of each text for its class's letter.
+    [[nodiscard]] int mark_width() const { return classes_ ? 2 : 0; }
+
+    [[nodiscard]] std::string on_fill(const std::string& text, const ClassLook& look) const {
+        if (!color_) return text;
+        Appearance filled;
+        filled.fill = look.fill;
+        return painted(text, filled);
+    }
+
+    [[nodiscard]] std::string legend() const {
+        std::string out = "\n";
+        for_each_class(*classes_, [&](const ClassLook& look, std::int64_t count) {
+            out += fmt::format("{} {}  ", on_fill(fmt::format("{} {}", look.mark, look.name), look), count);
+        });
+        while (out.ends_with(' ')) out.pop_back();
+        return out + '\n';
+    }
 
     void draw_row(std::string& out, std::int32_t row) {
         Appearance before;
@@ -117,7 +138,7 @@ class Grid {
             while (last + 1 < columns_.size()) {
                 const Position next{row, columns_[last + 1]};
                 const bool joined = merged && merged->contains(next);
-                const bool taken = !joined && runs_over && !merged && letters_in(look.text) > width &&
+                const bool taken = !joined && runs_over && !merged && letters_in(look.text) > width - mark_width() &&
                                    looks_.at(next).blank && !sheet_.merge_at(next) && !look.fill;
                 if (!joined && !taken) break;
                 ++last;
@@ -129,10 +150,16 @@ class Grid {
                 text = look.horizontal == host::Horizontal::Right ? text + blanks : blanks + text;
             }
             // A number that does not fit shows as marks, never as another number.
-            if (look.kind == host::CellKind::Number && letters_in(text) > width)
-                text = std::string(static_cast<std::size_t>(width), '#');
-            text = fitted(std::move(text), width, look.horizontal);
-            out += color_ ? painted(text, look) : text;
+            if (look.kind == host::CellKind::Number && letters_in(text) > width - mark_width())
+                text = std::string(static_cast<std::size_t>(width - mark_width()), '#');
+            text = fitted(std::move(text), width - mark_width(), look.horizontal);
+            if (classes_) {
+                const ClassLook& cell = look_of(classes_->at(at));
+                text = std::string{cell.mark, ' '} + text;
+                out += cell.mark == ' ' ? text : on_fill(text, cell);
+            } else {
+                out += color_ ? painted(text, look) : text;
+            }
             before = std::move(look);
             i = last;
         }
@@ -141,6 +168,7 @@ class Grid {
 
     host::Sheet& sheet_;
     bool color_;
+    const Classes* classes_;  // null unless they are to be seen
     SheetAppearance looks_;
     std::vector<std::int32_t> rows_, columns_;  // those in sight
     std::vector<int> widths_;                   // characters, of columns_
@@ -148,8 +176,8 @@ class Grid {
 
 }  // namespace
 
-std::string terminal_grid(host::Sheet& sheet, const formula::Area& area, bool color) {
-    return Grid(sheet, area, color).draw();
+std::string terminal_grid(host::Sheet& sheet, const formula::Area& area, bool color, const Classes* classes) {
+    return Grid(sheet, area, color, classes).draw();
 }
 
 }  // namespace kestrune::cli
