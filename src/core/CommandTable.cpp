@@ -11,17 +11,23 @@
 #include "smart/RowColumnCommands.h"
 #include "styles/commands/BorderCommands.h"
 #include "styles/commands/FontAndTextCommands.h"
+#include "styles/commands/NumericCycleCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
 namespace {
 
+using settings::NumericCycle;
 using settings::StyleCycle;
 
 template <StyleCycle field>
 constexpr CommandBody cycle = &styles::style_cycle_command<field>;
 template <StyleCycle field>
 constexpr CommandNaming named = &styles::style_cycle_name<field>;
+template <NumericCycle field>
+constexpr CommandBody number_cycle = &styles::numeric_cycle_command<field>;
+template <NumericCycle field>
+constexpr CommandNaming number_named = &styles::numeric_cycle_name<field>;
 
 template <smart::RowColumnCommand command>
 constexpr CommandBody grid = &smart::row_column_command<command>;
@@ -99,11 +105,11 @@ constexpr std::array<Command, 103> table{{
     {43, cycle<StyleCycle::MyStyleToggle13>, parameter, restyled, named<StyleCycle::MyStyleToggle13>},  // My SmartCycle 13
     {44, cycle<StyleCycle::MyStyleToggle14>, parameter, restyled, named<StyleCycle::MyStyleToggle14>},  // My SmartCycle 14
     {45, cycle<StyleCycle::MyStyleToggle15>, parameter, restyled, named<StyleCycle::MyStyleToggle15>},  // My SmartCycle 15
-    {46, later, parameter, formats},  // My Color SmartCycle 1
-    {47, later, parameter, formats},  // My Color SmartCycle 2
-    {48, later, parameter, formats},  // My Color SmartCycle 3
-    {49, later, parameter, formats},  // My Color SmartCycle 4
-    {50, later, parameter, formats},  // My Color SmartCycle 5
+    {46, number_cycle<NumericCycle::MyColorToggle1>, parameter, formats, number_named<NumericCycle::MyColorToggle1>},  // My Color SmartCycle 1
+    {47, number_cycle<NumericCycle::MyColorToggle2>, parameter, formats, number_named<NumericCycle::MyColorToggle2>},  // My Color SmartCycle 2
+    {48, number_cycle<NumericCycle::MyColorToggle3>, parameter, formats, number_named<NumericCycle::MyColorToggle3>},  // My Color SmartCycle 3
+    {49, number_cycle<NumericCycle::MyColorToggle4>, parameter, formats, number_named<NumericCycle::MyColorToggle4>},  // My Color SmartCycle 4
+    {50, number_cycle<NumericCycle::MyColorToggle5>, parameter, formats, number_named<NumericCycle::MyColorToggle5>},  // My Color SmartCycle 5
     {51, later, plain, formats},  // Add Decimal Place
     {52, later, plain, formats},  // Remove Decimal Place
     {53, &styles::increase_font_size, plain, formats},  // Increase Font Size
@@ -111,9 +117,9 @@ constexpr std::array<Command, 103> table{{
     {55, later, plain, contents},  // Error Trap
     {56, &styles::clear_formats, plain, unmerged},  // Clear Formats
     {57, later, plain, separators},  // Separator Line
-    {58, later, parameter, formats},  // Left Indent SmartCycle
-    {59, later, parameter, row_sizes},  // Row Height SmartCycle
-    {60, later, parameter, column_sizes},  // Column Width SmartCycle
+    {58, number_cycle<NumericCycle::IndentToggle>, parameter, formats, number_named<NumericCycle::IndentToggle>},  // Left Indent SmartCycle
+    {59, number_cycle<NumericCycle::RowHeightToggle>, parameter, row_sizes, number_named<NumericCycle::RowHeightToggle>},  // Row Height SmartCycle
+    {60, number_cycle<NumericCycle::ColWidthToggle>, parameter, column_sizes, number_named<NumericCycle::ColWidthToggle>},  // Column Width SmartCycle
     {61, grid<smart::RowColumnCommand::AutoFitRows>, plain, row_sizes},  // AutoFit Row Heights
     {62, grid<smart::RowColumnCommand::ResetColumnWidths>, plain, column_sizes},  // Standard Column Width
     {63, grid<smart::RowColumnCommand::InsertRows>, plain, recorded},  // Insert Rows
@@ -150,7 +156,7 @@ constexpr std::array<Command, 103> table{{
     {94, later, plain, formats},  // Scale Down by Thousands
     {95, later, plain, formats},  // Scale Up by Thousands
     {96, &styles::toggle_wrap_text, plain, formats},  // Toggle Wrap Text
-    {97, later, parameter, formats},  // Right Indent SmartCycle
+    {97, number_cycle<NumericCycle::RightIndentToggle>, parameter, formats, number_named<NumericCycle::RightIndentToggle>},  // Right Indent SmartCycle
     {98, toggle_gridlines, plain, nothing},  // Toggle Gridlines
     {99, place_window, parameter, nothing},  // Place Window
     {100, later, plain, number_formats},  // Remove Unused Number Formats

@@ -1,6 +1,7 @@
 #include "core/diUndoRedo.h"
 
 #include "core/bridges/Product.h"
+#include "settings/AutoColorCommands.h"
 
 namespace kestrune::core {
 
@@ -9,10 +10,8 @@ using automation::method;
 
 std::string diUndoRedo::product() const { return std::string(product_name); }
 
-bool diUndoRedo::do_not_auto_color(const automation::Value&) const {
-    // The SmartCycle of font colours that bears the AutoColor service's designated name decides; this version has
-    // no such SmartCycles.
-    return false;
+bool diUndoRedo::do_not_auto_color(const automation::Value& color) const {
+    return settings::is_respected_color(*shared_, color);
 }
 
 const MemberTable& diUndoRedo::members() {

@@ -77,6 +77,7 @@ void iGlobal::run_auto_color() const {
 void iGlobal::toggle_black_fonts() const {
     const auto shared = shared_;
     settings::toggle_black_fonts(*shared);
+    arm_undo(*shared);
 }
 
 void iGlobal::show_examples_workbook() const {

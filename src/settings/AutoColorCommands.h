@@ -9,6 +9,11 @@ namespace kestrune::settings {
 // Hands the AutoColor settings of the user over to the library that does the colouring.
 void hand_over_auto_color(core::SharedState& shared);
 
+// Whether AutoColor leaves cells alone whose font has this colour (BGR): one of those of the first font-colour
+// SmartCycle that bears the name which the AutoColor service designates. False when none does, and for what is no
+// colour.
+[[nodiscard]] bool is_respected_color(const core::SharedState& shared, const automation::Value& color);
+
 // Switches colouring of cells as they change on or off; the library keeps which.
 void toggle_auto_color(core::SharedState& shared);
 

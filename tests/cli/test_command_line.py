@@ -244,6 +244,7 @@ class Refusing(CommandLineTest):
     def test_wrong_usage(self):
         for needle, *arguments in [
             ("subcommand", ),
+            ("--classes", "show", self.book, "--json"),
             ("WORKBOOK", "run"),
             ("--nonsense", "run", self.book, "--nonsense"),
             ("103", "run", self.book, "103"),
@@ -385,6 +386,26 @@ class Telling(CommandLineTest):
         self.assertIn("$11", html)
         self.assertNotIn("It&#39;s hidden", html)
         self.assertIn("<label", html)
+
+    def test_shows_what_autocolor_sees(self):
+        plain = self.run_ok("show", self.book, "--classes").stdout.splitlines()
+        self.assertRegex(plain[1], r"^ +1 i +11 i +12 i +13 i +14 +f")
+        self.assertEqual(plain[-1], "i input 20  f formula 1")
+        self.assertIn("\x1b[0;48;2;", self.run_ok("show", self.book, "--classes", "--color", "always").stdout)
+        cells = json.loads(self.run_ok("show", self.book, "Model!E1:F2", "--classes", "--json").stdout)
+        self.assertEqual(cells, [{"Address": "Model!$F$1", "Class": "formula"}])
+        self.assertEqual(json.loads(self.run_ok("show", self.book, "Model!J1", "--classes", "--json").stdout), [])
+        page = self.folder / "page.html"
+        self.run_ok("show", self.book, "--classes", "--html", page)
+        self.assertIn('title="formula: =SUM(A1:A5)"', page.read_text())
+
+    def test_black_fonts_come_and_go_with_the_file(self):
+        black, back = self.folder / "black.xlsx", self.folder / "back.xlsx"
+        self.run_ok("run", self.book, "-o", black, "ToggleBlackFonts")
+        rules = [rule for area in openpyxl.load_workbook(black)["Model"].conditional_formatting for rule in area.rules]
+        self.assertEqual([rule.dxf.font.color.rgb for rule in rules], ["FF000000"])
+        self.run_ok("run", black, "-o", back, "ToggleBlackFonts")
+        self.assertEqual(self.run_ok("diff", self.book, back).stdout, "")
 
     def test_diff_tells_one_line_for_like_changes(self):
         out = self.folder / "out.xlsx"

@@ -106,9 +106,15 @@ TEST_F(CallbacksTest, DoNothingWhereNothingIsToDo) {
     log.clear();
     call(*hot_keys(), "UpdateExamplesFile", {true});
     call(*undo(), "RunMacro", {"mPublic.Init"});
-    EXPECT_EQ(call(*undo(), "DoNotAutoColor", {255}), Value(false)) << "no SmartCycle of font colours is there";
     EXPECT_THAT(log, IsEmpty());
     EXPECT_THAT(presenter.messages(), IsEmpty());
+}
+
+TEST_F(CallbacksTest, KeepAutoColorFromTheDesignatedCyclesColours) {
+    EXPECT_EQ(call(*undo(), "DoNotAutoColor", {0xFFFFFF}), Value(true)) << "one of the second colour cycle";
+    for (const Value& other : {Value(0xFF0000), Value("white"), Value()}) {
+        EXPECT_EQ(call(*undo(), "DoNotAutoColor", {other}), Value(false));
+    }
 }
 
 TEST_F(CallbacksTest, ReadTheSettingsAgain) {

@@ -1,3 +1,6 @@
+#include <array>
+
+#include "settings/AutoColorCommands.h"
 #include "settings/cUserSettings.h"
 #include "styles/AddInInHost.h"
 
@@ -8,6 +11,7 @@ using automation::Value;
 
 constexpr std::int32_t blue = 0xFF0000;
 constexpr std::int32_t black = 0;
+constexpr std::int32_t white = 0xFFFFFF;
 
 // The AutoColor members and commands as menus and keys call them.
 struct AutoColorCommands : styles::AddInInHost {
@@ -61,6 +65,44 @@ TEST_F(AutoColorCommands, ToggleColoursChangesUntilItIsPressedAgain) {
     start();
     on(1, "E4").Value(5.0);
     EXPECT_EQ(color(1, "E4"), black) << "each start begins with the user's settings";
+}
+
+TEST_F(AutoColorCommands, LeaveTheColoursOfTheDesignatedCycle) {
+    on(1, "A1").Font().Color(white);
+    on(1, "A2").Font().Color(0x123456);
+    press("A1:C1,A2", "15");
+    EXPECT_EQ(color(1, "A1"), white);
+    EXPECT_EQ(color(1, "B1:C1,A2"), blue);
+}
+
+// The first cycle of the name counts, whichever of the five it is; without one nothing is left alone.
+TEST_F(AutoColorCommands, TheDesignationIsByName) {
+    core::SharedState shared{presenter, trace};
+    shared.spreadsheet_library = std::make_shared<core::diBRXLLib>(trace);
+    ASSERT_TRUE(shared.spreadsheet_library->Create());
+    const std::string name = shared.spreadsheet().auto_color_smart_cycle();
+    EXPECT_FALSE(is_respected_color(shared, 1)) << "no settings";
+    const struct {
+        std::array<const char*, my_color_cycle_count> names;
+        std::int32_t deciding;  // 0 for none
+    } rows[] = {
+        {{"A", "*", "B", "C", "D"}, 2}, {{"A", "*", "*", "C", "*"}, 2}, {{"*", "A", "*", "C", "D"}, 1},
+        {{"A", "B", "C", "D", "*"}, 5}, {{"A", "B", "C", "D", "E"}, 0}, {{"", "", "", "*", ""}, 4},
+    };
+    for (const auto& row : rows) {
+        shared.user_settings = std::make_shared<cUserSettings>();
+        for (std::size_t i = 0; i < my_color_cycle_count; ++i) {
+            const double own = static_cast<double>(i) + 1;
+            const std::string called = row.names[i] == std::string("*") ? name : row.names[i];
+            shared.user_settings->set_cycle(
+                my_color_cycle(i + 1), std::make_shared<styles::cLongToggle>(called, std::vector<double>{99, own}));
+        }
+        for (std::int32_t color = 1; color <= 5; ++color) {
+            EXPECT_EQ(is_respected_color(shared, color), color == row.deciding) << row.deciding << " " << color;
+        }
+    }
+    shared.settings().cycle(NumericCycle::MyColorToggle4)->LookFors = {7, 8};
+    EXPECT_FALSE(is_respected_color(shared, 7)) << "what the palette made of a colour is not that colour";
 }
 
 TEST_F(AutoColorCommands, WithoutCellsOrLibrariesNothingHappens) {

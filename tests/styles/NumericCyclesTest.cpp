@@ -316,5 +316,41 @@ TEST_F(NumericCycles, APressCostsTheSameHoweverManyCells) {
     EXPECT_EQ(format("T1:T1000"), "0.00  ");
 }
 
+// The commands on the user's cycles: a press, straight to a value, no such value.
+TEST_F(NumericCycles, CommandsDriveTheirProperty) {
+    const auto indent = [&] { return cells("B2").IndentLevel(); };
+    const auto height = [&] { return cells("B2").RowHeight(); };
+    const auto width = [&] { return cells("B2").ColumnWidth(); };
+    const auto color = [&] { return cells("B2").Font().Color(); };
+    const struct {
+        const char* request;
+        std::function<Value()> shown;
+        std::vector<double> seen;
+    } rows[] = {
+        {"58", indent, {1, 2, 3, 4, 0, 1}},
+        {"58.3", indent, {3, 3}},
+        {"58.6", indent, {3}},
+        {"97", indent, {4, 0, 1}},
+        {"97.2", indent, {2}},
+        {"59", height, {8.25, 17.25, 33.75, 8.25}},
+        {"60", width, {5, 15, 64, 150, 5}},
+        {"60.2", width, {15}},
+        {"46", color, {0xFF0000, 0, 0xFF0000}},
+        {"47", color, {0xFFFFFF, 0x808080}},
+        {"48.1", color, {0x0000FF}},
+        {"48", color, {0x00FF00, 0x00FFFF, 0}},
+        {"49.2", color, {0x00FFFF}},
+        {"50", color, {0, 0x0000FF, 0x00FF00}},
+    };
+    for (const auto& row : rows) {
+        for (std::size_t i = 0; i < row.seen.size(); ++i) {
+            press("B2", row.request);
+            ASSERT_NEAR(automation::to_double(row.shown()), row.seen[i], 0.005) << row.request << " " << i;
+        }
+    }
+    EXPECT_EQ(cells("B2").HorizontalAlignment(), Value(excel::xlRight));
+    EXPECT_EQ(automation::to_integer(cells("B3").Font().Color()), 0);
+}
+
 }  // namespace
 }  // namespace kestrune::styles
