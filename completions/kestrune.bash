@@ -2,17 +2,27 @@
 _kestrune() {
     local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command=${COMP_WORDS[1]}
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W "run commands keys cell show diff --help --version" -- "$word"))
+        COMPREPLY=($(compgen -W "run commands keys cell show diff prefs --help --version" -- "$word"))
         return
     fi
     case $previous in
         --answer) COMPREPLY=($(compgen -W "ok cancel yes no ask" -- "$word")); return ;;
         --color) COMPREPLY=($(compgen -W "auto always never" -- "$word")); return ;;
     esac
+    if [[ $command == prefs ]] && ((COMP_CWORD == 2)); then
+        COMPREPLY=($(compgen -W "show init import export restore --help" -- "$word"))
+        return
+    fi
     if [[ $word == -* ]]; then
         case $command in
-            run) COMPREPLY=($(compgen -W "-o --output --in-place --answer --json --trace --help" -- "$word")) ;;
+            run) COMPREPLY=($(compgen -W "-o --output --in-place --prefs --set --answer --json --trace --help" -- "$word")) ;;
             show) COMPREPLY=($(compgen -W "--html --color --classes --json --help" -- "$word")) ;;
+            prefs)
+                case ${COMP_WORDS[2]} in
+                    show) COMPREPLY=($(compgen -W "--json --prefs --help" -- "$word")) ;;
+                    import | restore) COMPREPLY=($(compgen -W "--prefs --answer --help" -- "$word")) ;;
+                    *) COMPREPLY=($(compgen -W "--prefs --help" -- "$word")) ;;
+                esac ;;
             commands) COMPREPLY=($(compgen -W "--json --html --help" -- "$word")) ;;
             cell | diff | keys) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
         esac

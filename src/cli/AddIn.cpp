@@ -6,14 +6,17 @@
 #include "cli/Failure.h"
 #include "cli/InstallationFolder.h"
 #include "cli/PrintingDesktop.h"
+#include "cli/prefs/SetOption.h"
 #include "core/iGlobal.h"
 #include "core/register_add_in.h"
 #include "native/services.h"
+#include "settings/AutoColorCommands.h"
 
 namespace kestrune::cli {
 
 AddIn::AddIn(const excel::Application& application, host::Macros& macros, forms::Presenter& presenter,
-             const automation::Trace& trace, brxllib::CustomFormats* formats) {
+             const automation::Trace& trace, brxllib::CustomFormats* formats, const std::string& preferences)
+    : state_(std::make_shared<core::SharedState>(presenter, trace, installation_folder(), preferences)) {
     brvblib::Services services = native::services(trace, presenter, installation_folder());
     services.desktop = std::make_shared<PrintingDesktop>();
     brvblib::register_library(std::move(services));
@@ -22,7 +25,9 @@ AddIn::AddIn(const excel::Application& application, host::Macros& macros, forms:
     const automation::ObjectRef library = automation::CreateObject("BRXLLib.iPublic");
     automation::register_class("BRXLLib.iPublic", [library] { return library; });
     undo_redo_ = automation::to_object(automation::get(*library, "iUndoRedo"));
-    core::register_add_in(presenter, trace, installation_folder());
+    // On a command line a first start is nothing that anybody wants to be told about.
+    state_->tells_newcomers = false;
+    core::register_add_in(state_);
     public_ = automation::CreateObject("KestruneXL.iPublic");
     // The workbook that stands for the companion add-in is the one being worked on: it has no other here.
     automation::call(*public_, "NewPublic", {application.object(), application.ActiveWorkbook().object()});
@@ -32,6 +37,11 @@ AddIn::AddIn(const excel::Application& application, host::Macros& macros, forms:
     const automation::ObjectRef general = automation::CreateObject("BRVBLib.iPublic");
     const automation::ObjectRef keys = automation::to_object(automation::get(*general, "iHotKeys"));
     hot_keys_ = automation::to_object(automation::get(*keys, "Registry"));
+}
+
+void AddIn::set_options(const std::vector<std::string>& options) {
+    for (const std::string& option : options) set_option(state_->settings(), option);
+    settings::hand_over_auto_color(*state_);
 }
 
 void AddIn::add_macros(host::Macros& macros, const std::string& workbook) const {

@@ -12,6 +12,7 @@
 #include "cli/cell/CellCommand.h"
 #include "cli/diff/DiffCommand.h"
 #include "cli/keys/KeysCommand.h"
+#include "cli/prefs/PrefsCommand.h"
 #include "cli/run/RunCommand.h"
 #include "cli/show/ShowCommand.h"
 #include "host/xlsx/PackageError.h"
@@ -32,6 +33,8 @@ Examples:
       Draws the workbook as a page.
   kestrune diff model.xlsx out.xlsx
       Lists what changed between two workbooks.
+  kestrune prefs show
+      Shows your settings: styles, SmartCycles, colours, options.
 
 Exit status: 0 done, 1 a command or a file failed (nothing is written), 2 wrong usage.)";
 
@@ -44,6 +47,12 @@ void add_run(CLI::App& app, RunOptions& options) {
         ->capture_default_str();
     command->add_flag("--json", options.json, "Report each step as JSON");
     command->add_flag("--trace", options.trace, "Tell on standard error what commands skipped");
+    command->add_option("--prefs", options.prefs, "The preferences file to work by; your own unless given");
+    command
+        ->add_option("--set", options.settings,
+                     "Another value for one setting, for this run: SmartCopyRight.Rule=ALWAYS")
+        ->type_name("NAME=VALUE")
+        ->allow_extra_args(false);
     command->add_option("STEP", options.steps,
                         "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, key:Ctrl+Shift+4 presses a key, undo:2 "
                         "undoes, redo, history, "
@@ -52,6 +61,31 @@ void add_run(CLI::App& app, RunOptions& options) {
         "Steps run from left to right in one session; without steps the workbook is saved as it is.\n"
         "Without -o and --in-place nothing is saved.");
     command->callback([&options] { run(options); });
+}
+
+void add_prefs(CLI::App& app, PrefsOptions& options) {
+    CLI::App* command = app.add_subcommand("prefs", "Show and exchange the user settings");
+    command->require_subcommand(1);
+    command->footer("'kestrune run --prefs FILE' works by a file, '--set NAME=VALUE' changes one setting for a run.");
+    const auto add = [&](const char* name, const char* what, void (*act)(const PrefsOptions&)) {
+        CLI::App* action = command->add_subcommand(name, what);
+        action->add_option("--prefs", options.prefs, "The preferences file; your own unless given");
+        action->callback([&options, act] { act(options); });
+        return action;
+    };
+    const auto add_answer = [&](CLI::App* action) {
+        action->add_option("--answer", options.answer, "Answer to every question: ok, cancel, or ask")
+            ->capture_default_str();
+    };
+    add("show", "Show all settings", show_prefs)->add_flag("--json", options.json, "As JSON");
+    add("init", "Make a file of the default settings where there is none", init_prefs);
+    CLI::App* import = add("import", "Take all settings of another file", import_prefs);
+    import->add_option("FILE", options.other, "The preferences file to take them from")->required();
+    add_answer(import);
+    add("export", "Save the settings to another file", export_prefs)
+        ->add_option("FILE", options.other, "The file to save them to")
+        ->required();
+    add_answer(add("restore", "Give all settings their defaults", restore_prefs));
 }
 
 struct CellOptions {
@@ -136,12 +170,14 @@ int run_program(int argc, char** argv) {
     DiffOptions diff_options;
     CommandsOptions commands_options;
     KeysOptions keys_options;
+    PrefsOptions prefs_options;
     add_run(app, run_options);
     add_commands(app, commands_options);
     add_keys(app, keys_options);
     add_cell(app, cell_options);
     add_show(app, show_options);
     add_diff(app, diff_options);
+    add_prefs(app, prefs_options);
     try {
         app.parse(argc, argv);
         return done;

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 #include "automation/Trace.h"
+#include "core/bridges/SharedState.h"
 #include "forms/Presenter.h"
 
 namespace kestrune::core {
@@ -12,5 +14,7 @@ namespace kestrune::core {
 // component's own; examples and lessons lie in it.
 void register_add_in(forms::Presenter& presenter, const automation::Trace& trace,
                      const std::string& installation_folder = {});
+// The same for a program that looks into the state itself.
+void register_add_in(std::shared_ptr<SharedState> shared);
 
 }  // namespace kestrune::core

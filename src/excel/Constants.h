@@ -15,6 +15,7 @@ inline constexpr std::int32_t xlRight = -4152;
 inline constexpr std::int32_t xlFill = 5;
 inline constexpr std::int32_t xlJustify = -4130;
 inline constexpr std::int32_t xlCenterAcrossSelection = 7;
+inline constexpr std::int32_t xlDistributed = -4117;
 inline constexpr std::int32_t xlTop = -4160;
 inline constexpr std::int32_t xlBottom = -4107;
 
@@ -24,6 +25,9 @@ inline constexpr std::int32_t xlToLeft = -4159;
 
 // XlOrientation
 inline constexpr std::int32_t xlHorizontal = -4128;
+inline constexpr std::int32_t xlVertical = -4166;
+inline constexpr std::int32_t xlUpward = -4171;
+inline constexpr std::int32_t xlDownward = -4170;
 
 // XlUnderlineStyle
 inline constexpr std::int32_t xlUnderlineStyleNone = -4142;
@@ -35,6 +39,10 @@ inline constexpr std::int32_t xlUnderlineStyleDoubleAccounting = 5;
 // XlLineStyle
 inline constexpr std::int32_t xlContinuous = 1;
 inline constexpr std::int32_t xlDash = -4115;
+inline constexpr std::int32_t xlDot = -4118;
+inline constexpr std::int32_t xlDashDot = 4;
+inline constexpr std::int32_t xlDashDotDot = 5;
+inline constexpr std::int32_t xlSlantDashDot = 13;
 inline constexpr std::int32_t xlDouble = -4119;
 
 // XlBorderWeight

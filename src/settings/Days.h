@@ -1,7 +1,10 @@
 #pragma once
 
+#include <fmt/format.h>
+
 #include <chrono>
 #include <optional>
+#include <string>
 
 #include "automation/Value.h"
 
@@ -18,10 +21,18 @@ constexpr std::optional<automation::Date> day(int year, unsigned month, unsigned
     return automation::Date{static_cast<double>((std::chrono::sys_days(date) - first_day).count())};
 }
 
-constexpr int year_of(automation::Date date) {
+constexpr std::chrono::year_month_day day_of(automation::Date date) {
     // The time of day stands behind the point also before the first day.
-    const std::chrono::days days(static_cast<int>(date.serial));
-    return static_cast<int>(std::chrono::year_month_day(first_day + days).year());
+    return first_day + std::chrono::days(static_cast<int>(date.serial));
+}
+
+constexpr int year_of(automation::Date date) { return static_cast<int>(day_of(date).year()); }
+
+// The day alone, "2026-01-31".
+inline std::string day_text(automation::Date date) {
+    const std::chrono::year_month_day day = day_of(date);
+    return fmt::format("{:04}-{:02}-{:02}", static_cast<int>(day.year()), static_cast<unsigned>(day.month()),
+                       static_cast<unsigned>(day.day()));
 }
 
 }  // namespace kestrune::settings

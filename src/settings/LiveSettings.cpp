@@ -36,13 +36,6 @@ void tell_replacement(const SharedState& shared) {
                   core::product_title);
 }
 
-// Saves the first settings of a user. What stands in the file's place and could not be read may hold years of styles,
-// so it is kept.
-void save_defaults(const SharedState& shared, const cUserSettings& defaults, const std::string& path) {
-    if (shared.general().file_exists(path)) static_cast<void>(shared.general().set_aside(path, "unreadable"));
-    save_preferences(shared, defaults, path);
-}
-
 }  // namespace
 
 void use_settings(SharedState& shared, std::shared_ptr<cUserSettings> settings) {
@@ -60,10 +53,16 @@ void load_settings(SharedState& shared, bool report_problems) {
     const std::string path = own_path(shared);
     auto settings = settings_in(shared, path);
     if (!settings) {
-        if (report_problems && !path.empty()) attempt([&] { tell_replacement(shared); });
+        const bool told =
+            report_problems && !path.empty() && (shared.tells_newcomers || shared.general().file_exists(path));
+        if (told) attempt([&] { tell_replacement(shared); });
         settings = std::make_shared<cUserSettings>();
         settings->LoadDefaults(default_sources(shared));
-        if (!path.empty()) attempt([&] { save_defaults(shared, *settings, path); });
+        attempt([&] {
+            if (path.empty()) return;
+            static_cast<void>(keep_unreadable(shared, path));
+            save_preferences(shared, *settings, path);
+        });
     }
     use_settings(shared, std::move(settings));
 }

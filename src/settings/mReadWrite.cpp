@@ -105,6 +105,13 @@ std::string user_preferences_path(const SharedState& shared) {
     return shared.general().data_folder().append(preferences_file_name);
 }
 
+std::string keep_unreadable(const SharedState& shared, const std::string& path) {
+    const automation::Trace nobody;  // is told what whoever needs the room knows already
+    if (ResumeNext(nobody)([&] { static_cast<void>(load_preferences(shared, path)); })) return {};
+    if (!shared.general().file_exists(path)) return {};
+    return shared.general().set_aside(path, "unreadable");
+}
+
 DefaultSources default_sources(const SharedState& shared) {
     const ResumeNext attempt(shared.trace);
     DefaultSources sources;

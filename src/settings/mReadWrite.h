@@ -33,6 +33,10 @@ std::shared_ptr<cUserSettings> load_preferences(const core::SharedState& shared,
                                                 std::string_view requester = core::product_title);
 void save_preferences(const core::SharedState& shared, const cUserSettings& settings, std::string_view path);
 
+// Makes room for settings in the place of a file that cannot be read: it may hold years of styles, so it is renamed.
+// Its new path; empty where none is there or it can be read.
+std::string keep_unreadable(const core::SharedState& shared, const std::string& path);
+
 // What default settings take from the libraries.
 DefaultSources default_sources(const core::SharedState& shared);
 

@@ -4,7 +4,6 @@
 
 #include <cstdio>
 #include <filesystem>
-#include <iostream>
 #include <nlohmann/json.hpp>
 #include <optional>
 
@@ -12,14 +11,15 @@
 #include "automation/Text.h"
 #include "brvblib/CommandTexts.h"
 #include "cli/AddIn.h"
+#include "cli/AnswerOption.h"
 #include "cli/Failure.h"
+#include "cli/MessageLine.h"
 #include "cli/OpenWorkbook.h"
+#include "cli/prefs/SettingsSession.h"
 #include "cli/run/HistorySteps.h"
 #include "cli/run/KeyStep.h"
 #include "cli/run/Select.h"
 #include "cli/run/Step.h"
-#include "forms/ConsolePresenter.h"
-#include "forms/ScriptedPresenter.h"
 
 namespace kestrune::cli {
 namespace {
@@ -35,14 +35,6 @@ std::string lower_case(std::string_view text) {
     std::string out(text);
     for (char& c : out) c = automation::lower(c);
     return out;
-}
-
-// Who answers the commands' questions.
-std::unique_ptr<forms::Presenter> presenter_for(const std::string& answer) {
-    if (answer == "ask") return std::make_unique<forms::ConsolePresenter>(std::cin, std::cerr);
-    const auto policy = forms::answer_policy(answer);
-    if (!policy) throw UsageError(fmt::format("--answer {}: is not ok, cancel, yes, no or ask", answer));
-    return std::make_unique<forms::ScriptedPresenter>(*policy);
 }
 
 // The ending that a file's content asks for. Excel opens no file whose ending says something else.
@@ -87,7 +79,10 @@ class Session {
         OpenWorkbook book(options_.workbook);
         if (options_.output) check_output_name(book, options_.workbook, *options_.output);
         if (!steps_.empty()) {
-            AddIn add_in(book.application(), book.macros(), *presenter_, trace_, &book.formats());
+            check_preferences();
+            AddIn add_in(book.application(), book.macros(), *presenter_, trace_, &book.formats(), options_.prefs);
+            for (const auto& [message, answer] : messages_) fmt::print(stderr, "{}\n", message_line(message, answer));
+            if (!options_.settings.empty()) add_in.set_options(options_.settings);
             ordered_json report = ordered_json::array();
             const std::int32_t looked_at = book.model().active_sheet;
             for (std::size_t i = 0; i < steps_.size(); ++i) {
@@ -110,6 +105,11 @@ class Session {
     }
 
   private:
+    // A file that somebody names has to be good: the add-in would go on with the defaults, and replace it.
+    void check_preferences() const {
+        if (!options_.prefs.empty()) static_cast<void>(SettingsSession(*presenter_, options_.prefs).load());
+    }
+
     ordered_json run_step(OpenWorkbook& book, AddIn& add_in, const Step& step, const std::string& text) {
         messages_.clear();
         refusals_.clear();
@@ -172,8 +172,7 @@ class Session {
     void tell(const std::string& text, const std::string& what, std::int64_t calls) const {
         fmt::print("{:<12} {}  ({} call{})\n", text, what, calls, calls == 1 ? "" : "s");
         for (const ShownMessage& shown : messages_) {
-            fmt::print("             {}: {} [{}]\n", shown.message.caption, shown.message.text,
-                       forms::choice_name(shown.answer));
+            fmt::print("             {}\n", message_line(shown.message, shown.answer));
         }
     }
 

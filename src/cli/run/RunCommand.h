@@ -13,6 +13,8 @@ struct RunOptions {
     std::string answer = "ok";  // ok, cancel, yes, no, ask
     bool json = false;
     bool trace = false;
+    std::string prefs;                  // the file of the user settings; the user's own when empty
+    std::vector<std::string> settings;  // "GROUP.FIELD=VALUE", for this run
     std::vector<std::string> steps;
 };
 

@@ -37,6 +37,8 @@ struct SharedState {
     const std::string installation_folder;  // the component's own, where its files lie beside it
     const std::string preferences_file;     // of the user, when it is not the one in their folder for data
 
+    bool tells_newcomers = true;  // that the defaults are in use, to a user without a preferences file
+
     std::shared_ptr<cXL> xl;
     automation::ObjectRef application;      // Excel's Application
     automation::ObjectRef add_in_workbook;  // the companion workbook

@@ -1,0 +1,94 @@
+#include "cli/prefs/SetOption.h"
+
+#include <fmt/format.h>
+#include <fmt/ranges.h>
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+
+#include "automation/Conversion.h"
+#include "automation/Text.h"
+#include "cli/Failure.h"
+#include "settings/Fields.h"
+
+namespace kestrune::cli {
+namespace {
+
+using automation::same_text;
+using automation::Value;
+using settings::Sense;
+
+// The BGR colour that "#RRGGBB" means.
+std::optional<std::int32_t> color_of(std::string_view text) {
+    if (text.size() != 7 || text.front() != '#') return std::nullopt;
+    std::int32_t rgb = 0;
+    const auto [end, failure] = std::from_chars(text.data() + 1, text.data() + text.size(), rgb, 16);
+    if (failure != std::errc{} || end != text.data() + text.size() || rgb < 0) return std::nullopt;
+    return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16;
+}
+
+// The value that a person typed, checked for what files need not be checked for.
+template <class Record>
+Value checked(const settings::Field<Record>& field, const std::string& text, const styles::cStyles& library) {
+    if (field.sense == Sense::color) {
+        if (const auto color = color_of(text)) return *color;
+    }
+    if (field.sense == Sense::style_name && !library.Item(text)) {
+        throw UsageError(fmt::format("there is no style '{}'", text));
+    }
+    if (!field.keywords.empty()) {
+        const auto keyword = std::ranges::find_if(field.keywords, [&](auto word) { return same_text(word, text); });
+        if (keyword == field.keywords.end()) {
+            throw UsageError(fmt::format("'{}' is none of {}", text, fmt::join(field.keywords, ", ")));
+        }
+        return *keyword;
+    }
+    return text;
+}
+
+template <class Record>
+bool set_field(Record& record, std::string_view name, const std::string& text, const styles::cStyles& library) {
+    for (const auto& field : settings::fields<Record>()) {
+        if (!same_text(field.name, name)) continue;
+        settings::take(field, record, checked(field, text, library), library);
+        const auto* whole = std::get_if<std::int32_t Record::*>(&field.member);
+        // Files round; a person who types a fraction means it.
+        if (whole && text.front() != '#' && automation::to_double(text) != record.**whole) {
+            throw UsageError(fmt::format("'{}' is no whole number", text));
+        }
+        return true;
+    }
+    return false;
+}
+
+bool set_named(settings::cUserSettings& settings, std::string_view name, const std::string& text) {
+    const styles::cStyles& library = *settings.Styles;
+    const std::size_t dot = name.find('.');
+    if (dot == std::string_view::npos) return set_field(settings, name, text, library);
+    bool found = false;
+    settings::for_each_group(settings, [&](std::string_view group, auto& options, auto) {
+        if (same_text(group, name.substr(0, dot))) found = set_field(options, name.substr(dot + 1), text, library);
+    });
+    return found;
+}
+
+}  // namespace
+
+void set_option(settings::cUserSettings& settings, const std::string& option) {
+    const auto wrong = [&](std::string_view what) { return UsageError(fmt::format("--set {}: {}", option, what)); };
+    const std::size_t sign = option.find('=');
+    if (sign == std::string::npos) throw wrong("is not NAME=VALUE");
+    const std::string name = option.substr(0, sign);
+    bool found = false;
+    try {
+        found = set_named(settings, name, option.substr(sign + 1));
+    } catch (const automation::AutomationError& error) {
+        throw wrong(error.description());
+    } catch (const UsageError& error) {
+        throw wrong(error.what());
+    }
+    if (!found) throw wrong(fmt::format("there is no setting '{}'; 'kestrune prefs show' lists them", name));
+}
+
+}  // namespace kestrune::cli
