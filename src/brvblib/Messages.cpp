@@ -28,6 +28,12 @@ constexpr auto messages = std::to_array<Message>({
     // Preferences files
     {3060, "The selected file is not a user preferences file, or it could not be read.  Your current settings have not been changed."},
     {3061, "The user preferences have been successfully imported."},
+    // Number formats
+    {3070, "None of the selected cells has a number format with decimal places to adjust."},
+    {3071, "Some number formats could not be adjusted, since they would be longer than the 255 characters that Excel allows."},
+    {3072, "None of the selected cells has a number format that can show thousands."},
+    // Bookmarks
+    {3080, "The active workbook has no bookmarks."},
     // Fields of dialogs
     {3110, "Please enter a number for the interval."},
     {3111, "Please enter a number for the %1."},

@@ -9,6 +9,7 @@
 #include "brvblib/ClosingParenthesis.h"
 #include "brvblib/CommandTexts.h"
 #include "brvblib/Messages.h"
+#include "brvblib/NumberFormatDisplay.h"
 #include "brvblib/NumberFormatSections.h"
 #include "brvblib/TypedNumber.h"
 #include "forms/MsgBox.h"
@@ -39,6 +40,26 @@ Value iString::sections(const std::string& number_format) const {
     automation::Array array({1, static_cast<std::int32_t>(sections.size())});
     std::ranges::copy(sections, array.elements().begin());
     return array;
+}
+
+namespace {
+
+Value adjusted(const AdjustedFormat& format) {
+    automation::Array array({1, 2});
+    array.elements()[0] = static_cast<std::int32_t>(format.change);
+    array.elements()[1] = format.format;
+    return array;
+}
+
+}  // namespace
+
+Value iString::adjust_decimals(const std::string& number_format, std::int32_t step,
+                               const std::string& general_shows) const {
+    return adjusted(with_decimals(number_format, step, general_shows));
+}
+
+Value iString::adjust_scale(const std::string& number_format, std::int32_t step) const {
+    return adjusted(with_scale(number_format, step));
 }
 
 std::int32_t iString::closing_parenthesis(const std::string& expression) const {
@@ -88,7 +109,9 @@ const MemberTable& iString::members() {
         method<&iString::version_at_least>("VersionAtLeast", 5, "Version, Major"),
         method<&iString::is_numeric>("IsNumeric", 6, "Text"), method<&iString::number>("Number", 7, "Text"),
         method<&iString::check_numeric_field>("CheckNumericField", 8, "Text, FieldName, Caption"),
-        method<&iString::name_text>("NameText", 9, "Text"));
+        method<&iString::name_text>("NameText", 9, "Text"),
+        method<&iString::adjust_decimals>("AdjustDecimals", 10, "NumberFormat, Step, GeneralShows"),
+        method<&iString::adjust_scale>("AdjustScale", 11, "NumberFormat, Step"));
     static constexpr MemberTable table("iString", rows);
     return table;
 }

@@ -28,6 +28,11 @@ class iString : public automation::Served<iString> {
 
     // The sections of a number format, an array of texts from 1 on.
     [[nodiscard]] automation::Value sections(const std::string& number_format) const;
+    // A number format with one decimal place more or less (step 1 or -1), or showing numbers a thousand times smaller
+    // or larger: an array of what became of it (FormatChange) and the format. See NumberFormatDisplay.h.
+    [[nodiscard]] automation::Value adjust_decimals(const std::string& number_format, std::int32_t step,
+                                                    const std::string& general_shows) const;
+    [[nodiscard]] automation::Value adjust_scale(const std::string& number_format, std::int32_t step) const;
     // Where the ")" stands that closes an expression whose "(" stands before it, from 1 on; 0 when it is not closed.
     [[nodiscard]] std::int32_t closing_parenthesis(const std::string& expression) const;
     // Whether an application's version text ("16.0", "9.0a") is a major version or a later one. A text that begins

@@ -30,7 +30,14 @@ class Parter {
   public:
     Parter(const excel::Range& range, FormatReader read) : sheet_(range.Worksheet()), read_(read) {}
 
-    void add(const Area& area) { part(area, nullptr); }
+    void add(const std::vector<Area>& areas) {
+        for (const Area& area : areas) part(area, nullptr);
+        if (!torn_ || !layered_) return;
+        // A cell that differs within itself is in no part, and nothing below it may be written.
+        layered_ = false;
+        groups_.clear();
+        for (const Area& area : areas) part(area, nullptr);
+    }
 
     [[nodiscard]] std::vector<FormatPart> parts() {
         std::ranges::stable_sort(groups_, {}, &Group::layer);
@@ -48,9 +55,7 @@ class Parter {
   private:
     // below: what the cells under the area have already, where something covers all of them.
     void part(const Area& area, const Value* below) {
-        const bool whole_columns = area.first_row == 1 && area.last_row == formula::max_rows;
-        const bool whole_rows = area.first_column == 1 && area.last_column == formula::max_columns;
-        if (whole_columns && used().last_row < formula::max_rows) {
+        if (layered_ && area.whole_columns() && used().last_row < formula::max_rows) {
             visit({used().last_row + 1, area.first_column, area.last_row, area.last_column},
                   [&](Area strip, const Value& value) {
                       strip.first_row = 1;
@@ -58,7 +63,7 @@ class Parter {
                       strip.last_row = used().last_row;
                       part(strip, &value);
                   });
-        } else if (whole_rows && used().last_column < formula::max_columns) {
+        } else if (layered_ && area.whole_rows() && used().last_column < formula::max_columns) {
             visit({area.first_row, used().last_column + 1, area.last_row, area.last_column},
                   [&](Area strip, const Value& value) {
                       strip.first_column = 1;
@@ -76,10 +81,13 @@ class Parter {
     template <class Visit>
     void visit(const Area& area, Visit&& visit) {
         visit_uniform_parts(
-            area, [&](const Area& part) { return read_(sheet_.Range(formula::area_text(part))); },
-            [&](const Area& part, const Value& value) {
-                if (!value.is(Value::Kind::Null)) visit(part, value);
-            });
+            area,
+            [&](const Area& part) {
+                Value value = read_(sheet_.Range(formula::area_text(part)));
+                if (part.single_cell() && value.is(Value::Kind::Null)) torn_ = true;
+                return value;
+            },
+            visit);
     }
 
     void keep(Layer layer, const Value& value, const Area& area) {
@@ -97,6 +105,8 @@ class Parter {
     excel::Worksheet sheet_;
     FormatReader read_;
     std::optional<Area> used_;
+    bool layered_ = true;
+    bool torn_ = false;  // a single cell answered Null
     std::vector<Group> groups_;
 };
 
@@ -104,7 +114,7 @@ class Parter {
 
 std::vector<FormatPart> format_parts(const excel::Range& range, FormatReader read) {
     Parter parter(range, read);
-    for (const Area& area : areas_of(range)) parter.add(area);
+    parter.add(areas_of(range));
     return parter.parts();
 }
 

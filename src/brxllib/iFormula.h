@@ -14,6 +14,11 @@ class iFormula : public automation::Served<iFormula> {
     static const automation::MemberTable& members();
 
   private:
+    // How the first reference of an A1 formula is anchored, Empty when it has none, and the formula with all of them
+    // anchored so: 0 to 3, see FormulaAnchors.h.
+    [[nodiscard]] automation::Value anchor_of(const std::string& formula) const;
+    [[nodiscard]] std::string anchored(const std::string& formula, std::int32_t anchor) const;
+
     // The R1C1 formula with its relative references pointing so many rows further down and columns further right
     // (negative: up, left), on whatever sheet they are; absolute references and everything else stay. Given the cell
     // (row and column, from 1) that the formula is for, a reference pushed off the sheet becomes #REF!; without it

@@ -1,8 +1,12 @@
 #include "brxllib/iRange.h"
 
+#include <type_traits>
+
 #include "brxllib/ContentKind.h"
 #include "brxllib/FormatParts.h"
+#include "brxllib/FormulaBlocks.h"
 #include "brxllib/Links.h"
+#include "brxllib/TextParts.h"
 #include "excel/Worksheet.h"
 
 namespace kestrune::brxllib {
@@ -40,16 +44,25 @@ Value iRange::dependents(const ObjectRef& cell) const {
 
 namespace {
 
-Value parts_of(const ObjectRef& object, FormatReader read) {
-    const auto parts = format_parts(excel::Range(object), read);
+// A table of what each address has; Empty when there are none.
+template <class Parts>
+Value table_of(const Parts& parts) {
     if (parts.empty()) return {};
     Array answer(Array::Bound{1, static_cast<std::int32_t>(parts.size())}, Array::Bound{1, 2});
     auto element = answer.elements().begin();
     for (const auto& [address, value] : parts) {
         *element++ = address;
-        *element++ = value;
+        if constexpr (std::is_enum_v<std::remove_cvref_t<decltype(value)>>) {
+            *element++ = static_cast<std::int32_t>(value);
+        } else {
+            *element++ = value;
+        }
     }
     return answer;
+}
+
+Value parts_of(const ObjectRef& object, FormatReader read) {
+    return table_of(format_parts(excel::Range(object), read));
 }
 
 }  // namespace
@@ -62,12 +75,22 @@ Value iRange::font_sizes(const ObjectRef& range) const {
     return parts_of(range, [](const excel::Range& cells) { return cells.Font().Size(); });
 }
 
+Value iRange::text_parts(const ObjectRef& range, const std::string& text) const {
+    return table_of(brxllib::text_parts(excel::Range(range), text));
+}
+
+Value iRange::formula_blocks(const ObjectRef& range) const {
+    return table_of(brxllib::formula_blocks(library_->application, excel::Range(range)));
+}
+
 const MemberTable& iRange::members() {
     static constexpr auto rows = automation::member_rows(
         method<&iRange::content_kind>("ContentKind", 1, "Range"), method<&iRange::in_use>("InUse", 2, "Range"),
         method<&iRange::precedents>("Precedents", 3, "Cell"), method<&iRange::dependents>("Dependents", 4, "Cell"),
         method<&iRange::number_formats>("NumberFormats", 5, "Range"),
-        method<&iRange::font_sizes>("FontSizes", 6, "Range"));
+        method<&iRange::font_sizes>("FontSizes", 6, "Range"),
+        method<&iRange::text_parts>("TextParts", 7, "Range, Text"),
+        method<&iRange::formula_blocks>("FormulaBlocks", 8, "Range"));
     static constexpr MemberTable table("iRange", rows);
     return table;
 }

@@ -29,6 +29,12 @@ class iRange : public automation::Served<iRange> {
     [[nodiscard]] automation::Value number_formats(const automation::ObjectRef& range) const;
     [[nodiscard]] automation::Value font_sizes(const automation::ObjectRef& range) const;
 
+    // Parts of a rectangle by whether the formula of a cell is a text: rows of an address and a Boolean; TextParts.h.
+    [[nodiscard]] automation::Value text_parts(const automation::ObjectRef& range, const std::string& text) const;
+    // The rectangles of a range that hold formulas: rows of an address and a FormulaBlockKind; FormulaBlocks.h. Both
+    // are Empty when there are none.
+    [[nodiscard]] automation::Value formula_blocks(const automation::ObjectRef& range) const;
+
     std::shared_ptr<Library> library_;
 };
 

@@ -4,14 +4,21 @@
 
 #include "automation/Conversion.h"
 #include "automation/ResumeNext.h"
+#include "core/BookmarkCommands.h"
+#include "core/SheetCommands.h"
 #include "core/WindowCommands.h"
 #include "excel/Constants.h"
 #include "settings/AutoColorCommands.h"
+#include "smart/AnchorCommand.h"
+#include "smart/CleanUpCommands.h"
 #include "smart/OutlineLevels.h"
 #include "smart/RowColumnCommands.h"
 #include "styles/commands/BorderCommands.h"
+#include "styles/commands/CellContentCommands.h"
 #include "styles/commands/FontAndTextCommands.h"
+#include "styles/commands/NumberDisplayCommands.h"
 #include "styles/commands/NumericCycleCommands.h"
+#include "styles/commands/SheetStyleCommands.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
@@ -61,23 +68,23 @@ constexpr Touches number_formats{Reach::Workbook, Aspects::NumberFormats};
 constexpr std::array<Command, 103> table{{
     {0, later, plain, recorded},  // Smart Copy Right
     {1, later, plain, recorded},  // Smart Copy Down
-    {2, later, plain, contents},  // Smart Anchor
+    {2, &smart::anchor_references, plain, contents},  // Smart Anchor
     {3, later, plain, contents},  // Smart Formula Column Spacing
     {4, later, plain, contents},  // Smart Formula Row Spacing
     {5, later, plain, recorded},  // Smart Fill Dates
     {6, later, plain, recorded},  // Smart Fill Numbers
     {7, later, plain, nothing},  // Smart Precedents
     {8, later, plain, nothing},  // Smart Dependents
-    {9, later, plain, names},  // Set Bookmark
-    {10, later, plain, nothing},  // Next Bookmark
-    {11, later, plain, nothing},  // Previous Bookmark
-    {12, later, plain, names},  // Remove Bookmarks
-    {13, later, plain, nothing},  // Next Worksheet
-    {14, later, plain, nothing},  // Previous Worksheet
+    {9, set_bookmark, plain, names},  // Set Bookmark
+    {10, next_bookmark, plain, nothing},  // Next Bookmark
+    {11, previous_bookmark, plain, nothing},  // Previous Bookmark
+    {12, remove_bookmarks, plain, names},  // Remove Bookmarks
+    {13, next_worksheet, plain, nothing},  // Next Worksheet
+    {14, previous_worksheet, plain, nothing},  // Previous Worksheet
     {15, &settings::auto_color_selection, plain, formats},  // AutoColor Selection
-    {16, later, plain, lasting},  // Apply Sheet Style
-    {17, later, plain, nothing},  // Capture BR Paintbrush
-    {18, later, plain, formats},  // Apply BR Paintbrush
+    {16, &styles::apply_sheet_style, plain, lasting},  // Apply Sheet Style
+    {17, &styles::capture_paintbrush, plain, nothing},  // Capture BR Paintbrush
+    {18, &styles::apply_paintbrush, plain, formats},  // Apply BR Paintbrush
     {19, cycle<StyleCycle::GeneralStyleToggle>, parameter, restyled, named<StyleCycle::GeneralStyleToggle>},  // General Number SmartCycle
     {20, cycle<StyleCycle::CurrencyStyleToggle>, parameter, restyled, named<StyleCycle::CurrencyStyleToggle>},  // Currency SmartCycle
     {21, cycle<StyleCycle::PercentStyleToggle>, parameter, restyled, named<StyleCycle::PercentStyleToggle>},  // Percent SmartCycle
@@ -110,13 +117,13 @@ constexpr std::array<Command, 103> table{{
     {48, number_cycle<NumericCycle::MyColorToggle3>, parameter, formats, number_named<NumericCycle::MyColorToggle3>},  // My Color SmartCycle 3
     {49, number_cycle<NumericCycle::MyColorToggle4>, parameter, formats, number_named<NumericCycle::MyColorToggle4>},  // My Color SmartCycle 4
     {50, number_cycle<NumericCycle::MyColorToggle5>, parameter, formats, number_named<NumericCycle::MyColorToggle5>},  // My Color SmartCycle 5
-    {51, later, plain, formats},  // Add Decimal Place
-    {52, later, plain, formats},  // Remove Decimal Place
+    {51, &styles::add_decimal_place, plain, formats},  // Add Decimal Place
+    {52, &styles::remove_decimal_place, plain, formats},  // Remove Decimal Place
     {53, &styles::increase_font_size, plain, formats},  // Increase Font Size
     {54, &styles::decrease_font_size, plain, formats},  // Decrease Font Size
-    {55, later, plain, contents},  // Error Trap
+    {55, &styles::error_trap, plain, contents},  // Error Trap
     {56, &styles::clear_formats, plain, unmerged},  // Clear Formats
-    {57, later, plain, separators},  // Separator Line
+    {57, &styles::separator_line, plain, separators},  // Separator Line
     {58, number_cycle<NumericCycle::IndentToggle>, parameter, formats, number_named<NumericCycle::IndentToggle>},  // Left Indent SmartCycle
     {59, number_cycle<NumericCycle::RowHeightToggle>, parameter, row_sizes, number_named<NumericCycle::RowHeightToggle>},  // Row Height SmartCycle
     {60, number_cycle<NumericCycle::ColWidthToggle>, parameter, column_sizes, number_named<NumericCycle::ColWidthToggle>},  // Column Width SmartCycle
@@ -150,17 +157,17 @@ constexpr std::array<Command, 103> table{{
     {88, zoom_out, plain, nothing},  // Zoom Out
     {89, toggle_window_size, plain, nothing},  // Toggle Window Size
     {90, maximise_window, plain, nothing},  // Maximize Window
-    {91, later, plain, nothing},  // First Worksheet
-    {92, later, plain, nothing},  // Last Worksheet
+    {91, first_worksheet, plain, nothing},  // First Worksheet
+    {92, last_worksheet, plain, nothing},  // Last Worksheet
     {93, &settings::auto_color_workbook, plain, book_formats},  // AutoColor Workbook
-    {94, later, plain, formats},  // Scale Down by Thousands
-    {95, later, plain, formats},  // Scale Up by Thousands
+    {94, &styles::scale_down, plain, formats},  // Scale Down by Thousands
+    {95, &styles::scale_up, plain, formats},  // Scale Up by Thousands
     {96, &styles::toggle_wrap_text, plain, formats},  // Toggle Wrap Text
     {97, number_cycle<NumericCycle::RightIndentToggle>, parameter, formats, number_named<NumericCycle::RightIndentToggle>},  // Right Indent SmartCycle
     {98, toggle_gridlines, plain, nothing},  // Toggle Gridlines
     {99, place_window, parameter, nothing},  // Place Window
-    {100, later, plain, number_formats},  // Remove Unused Number Formats
-    {101, later, plain, names},  // Remove Invalid Range Names
+    {100, &smart::RemoveUnusedNumberFormats, plain, number_formats},  // Remove Unused Number Formats
+    {101, &smart::RemoveInvalidRangeNames, plain, names},  // Remove Invalid Range Names
     {102, &settings::auto_color_worksheet, plain, sheet_formats},  // AutoColor Worksheet
 }};
 // clang-format on

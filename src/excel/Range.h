@@ -39,6 +39,7 @@ class Range : public Facade<Range> {
         {"Font", Access::get},
         {"FormatConditions", Access::get},
         {"Formula", Access::get_put},
+        {"Formula2", Access::get_put},
         {"FormulaArray", Access::get_put},
         {"FormulaR1C1", Access::get_put},
         {"Group", Access::method, "Start End By Periods"},
@@ -52,6 +53,7 @@ class Range : public Facade<Range> {
         {"Interior", Access::get},
         {"Item", Access::get, "RowIndex! ColumnIndex"},
         {"Locked", Access::get_put},
+        {"MergeArea", Access::get},
         {"MergeCells", Access::get_put},
         {"NumberFormat", Access::get_put},
         {"Orientation", Access::get_put},
@@ -62,6 +64,7 @@ class Range : public Facade<Range> {
         {"Row", Access::get},
         {"RowHeight", Access::get_put},
         {"Rows", Access::get},
+        {"SavedAsArray", Access::get},
         {"Select", Access::method},
         {"ShrinkToFit", Access::get_put},
         {"SpillParent", Access::get},
@@ -114,11 +117,16 @@ class Range : public Facade<Range> {
     }
     [[nodiscard]] excel::Value Formula() const { return get("Formula"); }  // a 2-D array for several cells
     void Formula(excel::Value value) const { put("Formula", std::move(value)); }
+    // With arrays where a formula gives them, of Excel with dynamic arrays only.
+    [[nodiscard]] excel::Value Formula2() const { return get("Formula2"); }
+    void Formula2(excel::Value value) const { put("Formula2", std::move(value)); }
+    // One formula for all the cells.
+    [[nodiscard]] excel::Value FormulaArray() const { return get("FormulaArray"); }
     void FormulaArray(std::string_view formula) const { put("FormulaArray", formula); }  // A1 or R1C1, with "="
     [[nodiscard]] excel::Value FormulaR1C1() const { return get("FormulaR1C1"); }
     void FormulaR1C1(excel::Value value) const { put("FormulaR1C1", std::move(value)); }
-    void Group() const { call("Group"); }  // one outline level deeper
-    [[nodiscard]] excel::Value HasArray() const { return get("HasArray"); }
+    void Group() const { call("Group"); }                                    // one outline level deeper
+    [[nodiscard]] excel::Value HasArray() const { return get("HasArray"); }  // part of an array formula
     [[nodiscard]] excel::Value HasFormula() const { return get("HasFormula"); }
     [[nodiscard]] excel::Value Hidden() const { return get("Hidden"); }  // whole rows or whole columns only
     void Hidden(excel::Value value) const { put("Hidden", std::move(value)); }
@@ -130,7 +138,8 @@ class Range : public Facade<Range> {
     void Insert() const { call("Insert"); }
     [[nodiscard]] excel::Interior Interior() const { return get<excel::Interior>("Interior"); }
     [[nodiscard]] Range Item(std::int32_t row, std::int32_t column) const { return get<Range>("Item", row, column); }
-    [[nodiscard]] excel::Value Locked() const { return get("Locked"); }  // while the sheet is protected
+    [[nodiscard]] excel::Value Locked() const { return get("Locked"); }        // while the sheet is protected
+    [[nodiscard]] Range MergeArea() const { return get<Range>("MergeArea"); }  // the cell itself where it is not merged
     [[nodiscard]] excel::Value MergeCells() const { return get("MergeCells"); }
     void MergeCells(excel::Value value) const { put("MergeCells", std::move(value)); }
     [[nodiscard]] excel::Value NumberFormat() const { return get("NumberFormat"); }
@@ -149,6 +158,8 @@ class Range : public Facade<Range> {
     [[nodiscard]] excel::Value RowHeight() const { return get("RowHeight"); }    // points
     void RowHeight(excel::Value value) const { put("RowHeight", std::move(value)); }
     [[nodiscard]] Range Rows() const { return get<Range>("Rows"); }
+    // Whether formulas give arrays, of Excel with dynamic arrays only.
+    [[nodiscard]] excel::Value SavedAsArray() const { return get("SavedAsArray"); }
     void Select() const { call("Select"); }
     [[nodiscard]] excel::Value ShrinkToFit() const { return get("ShrinkToFit"); }
     void ShrinkToFit(excel::Value value) const { put("ShrinkToFit", std::move(value)); }

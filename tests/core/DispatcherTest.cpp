@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "core/AddInTest.h"
 #include "core/CommandTable.h"
 
@@ -118,9 +120,11 @@ TEST_F(DispatcherTest, PutsScreenUpdatingBackAsItWas) {
 
 TEST_F(DispatcherTest, TellsTheTraceOfACommandThatIsNotThereYet) {
     start();
-    ASSERT_EQ(commands()[9].body, nullptr);
-    EXPECT_TRUE(run("9"));
-    EXPECT_THAT(skipped, ElementsAre("command 9 is not in this version"));
+    const auto missing = std::ranges::find(commands(), nullptr, &Command::body);
+    if (missing == commands().end()) GTEST_SKIP() << "every command is there";
+    const std::string number = std::to_string(missing->number);
+    EXPECT_TRUE(run(number));
+    EXPECT_THAT(skipped, ElementsAre("command " + number + " is not in this version"));
 }
 
 TEST_F(DispatcherTest, FailsOnlyWhereTheCallItselfIsWrong) {

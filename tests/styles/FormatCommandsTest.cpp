@@ -140,7 +140,8 @@ TEST_F(FormatCommands, WrapTogglesAndClearingLeavesTheGeneralStyle) {
 }
 
 TEST_F(FormatCommands, UniformCellsCostTheSameHoweverManyTheyAre) {
-    for (const char* request : {"53", "54", "56", "80", "81", "82", "83", "84", "86", "96"}) {
+    for (const char* request :
+         {"51", "52", "53", "54", "56", "94", "95", "80", "81", "82", "83", "84", "86", "96", "18"}) {
         const auto one = calls_of("B2", request);
         press("B2", request);
         for (const char* cells : {"B2:K11", "B2:CW101", "B:CW", "2:101"}) {
@@ -150,6 +151,79 @@ TEST_F(FormatCommands, UniformCellsCostTheSameHoweverManyTheyAre) {
         clear_formats("1:1048576");
     }
     EXPECT_EQ(calls_of("B2:C3", "85"), calls_of("B2:CW101", "85"));
+}
+
+TEST_F(FormatCommands, EachNumberFormatOfASelectionIsAdjustedForItself) {
+    cells("A:D").NumberFormat("0.0");
+    cells("B2").NumberFormat("@");
+    cells("C3:C5").NumberFormat("#,##0_);(#,##0)");
+    cells("3:3").NumberFormat("d-mmm");
+    cells("E1").Value("note");
+    cells("E2").Value(12.25);
+    const struct {
+        const char* request;
+        const char* selection;
+        std::vector<std::pair<const char*, const char*>> formats;
+    } rows[] = {
+        {"51",
+         "A1:E5",
+         {{"A1", "0.00"},
+          {"B2", "@"},
+          {"C4", "#,##0.0_);(#,##0.0)"},
+          {"D3", "d-mmm"},
+          {"E2", "0.000"},
+          {"E1", "0.000"},
+          {"A6", "0.0"}}},
+        {"52", "A1:E5", {{"A1", "0.0"}, {"C4", "#,##0_);(#,##0)"}, {"E2", "0.00"}}},
+        {"51",
+         "A:D",
+         {{"A1", "0.00"}, {"A1048576", "0.00"}, {"B2", "@"}, {"C4", "#,##0.0_);(#,##0.0)"}, {"D3", "d-mmm"}}},
+        {"94", "C4:C5,D1", {{"C4", "#,##0.0,_);(#,##0.0,)"}, {"D1", "0.00,"}, {"C1", "0.00"}}},
+        {"95", "C4:C5,D1", {{"C4", "#,##0.0_);(#,##0.0)"}, {"D1", "0.00"}}},
+    };
+    for (const auto& row : rows) {
+        press(row.selection, row.request);
+        for (const auto& [cell, format] : row.formats) {
+            EXPECT_EQ(cells(cell).NumberFormat(), Value(format))
+                << row.request << " on " << row.selection << " at " << cell;
+        }
+    }
+    EXPECT_EQ(cells("E2").Value2(), Value(12.25));
+    for (const forms::Message& message : presenter.messages()) {
+        EXPECT_THAT(message.text, testing::Not(testing::HasSubstr("number format")));
+    }
+    press("B2", "51");
+    ASSERT_FALSE(presenter.messages().empty());
+    EXPECT_EQ(presenter.messages().back().text,
+              "None of the selected cells has a number format with decimal places to adjust.");
+    press("A3:D3", "94");
+    EXPECT_EQ(presenter.messages().back().text,
+              "None of the selected cells has a number format that can show thousands.");
+    const std::string longest = "0.0\"" + std::string(250, 'x') + "\"";
+    cells("G1").NumberFormat(longest);
+    press("G1:H1", "51");
+    EXPECT_EQ(cells("G1").NumberFormat(), Value(longest));
+    EXPECT_EQ(cells("H1").NumberFormat(), Value("0.0"));
+    EXPECT_EQ(presenter.messages().back().text,
+              "Some number formats could not be adjusted, since they would be longer than the 255 characters that "
+              "Excel allows.");
+}
+
+TEST_F(FormatCommands, AnchorsStepTogether) {
+    const char* const steps_of_anchors[] = {"=$A$1+$B$2", "=A$1+B$2", "=$A1+$B2", "=A1+B2", "=$A$1+$B$2"};
+    cells("D4").Formula("=A1+$B$2");
+    cells("D5").Formula("=SUM(A:A,2:3,Sheet1!$A$1:B2)&\"A1\"");
+    cells("D6").Value("=A1");
+    cells("D7").Value("'=A1");
+    for (const char* formula : steps_of_anchors) {
+        press("D4:D9", "2");
+        EXPECT_EQ(cells("D4").Formula(), Value(formula));
+    }
+    EXPECT_EQ(cells("D5").Formula(), Value("=SUM($A:$A,$2:$3,Sheet1!$A$1:$B$2)&\"A1\""));
+    EXPECT_EQ(cells("D6").Formula(), Value("=$A$1"));
+    EXPECT_EQ(cells("D7").Formula(), Value("=A1"));
+    press("D5", "2");
+    EXPECT_EQ(cells("D5").Formula(), Value("=SUM(A:A,$2:$3,Sheet1!A$1:B$2)&\"A1\""));
 }
 
 }  // namespace

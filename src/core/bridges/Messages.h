@@ -15,6 +15,10 @@ enum class Text : std::int32_t {
     NoRowLabel = 3044,
     ImportFailed = 3060,
     Imported = 3061,
+    NoDecimalsToAdjust = 3070,
+    NumberFormatTooLong = 3071,
+    NoNumbersToScale = 3072,
+    NoBookmarks = 3080,
     IntervalIsNoNumber = 3110,
     PaintbrushStem = 3120,  // a counter follows
     ImportReplacesSettings = 3130,

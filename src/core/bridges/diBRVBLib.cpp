@@ -17,6 +17,16 @@ std::optional<std::string> chosen(const automation::Value& path) {
     return to_text(path);
 }
 
+AdjustedNumberFormat adjusted(const automation::Value& answer) {
+    const automation::Array* array = answer.array();
+    if (!array || array->elements().size() != 2) {
+        throw automation::AutomationError(automation::hresult::type_mismatch, "the adjusted number format",
+                                          "is no outcome and format");
+    }
+    return {static_cast<AdjustedNumberFormat::Outcome>(automation::to_integer(array->elements()[0])),
+            to_text(array->elements()[1])};
+}
+
 }  // namespace
 
 void diBRVBLib::set_application(const automation::ObjectRef& application) const {
@@ -82,6 +92,15 @@ std::vector<std::string> diBRVBLib::number_format_sections(std::string_view form
         for (const automation::Value& section : array->elements()) texts.push_back(to_text(section));
     }
     return texts;
+}
+
+AdjustedNumberFormat diBRVBLib::with_decimals(std::string_view format, std::int32_t step,
+                                              std::string_view general_shows) const {
+    return adjusted(call(String, "AdjustDecimals", {format, step, general_shows}));
+}
+
+AdjustedNumberFormat diBRVBLib::with_scale(std::string_view format, std::int32_t step) const {
+    return adjusted(call(String, "AdjustScale", {format, step}));
 }
 
 std::int32_t diBRVBLib::closing_parenthesis(std::string_view expression) const {

@@ -21,6 +21,18 @@ struct HotKeyMacro {
     std::string_view group;
 };
 
+// A number format as a command would have it.
+struct AdjustedNumberFormat {
+    enum class Outcome : std::int32_t {
+        Changed = 0,
+        AtLimit = 1,     // there is no further step
+        NotNumeric = 2,  // it shows texts, dates or fractions
+        TooLong = 3,     // for Excel
+    };
+    Outcome outcome = Outcome::NotNumeric;
+    std::string format;  // the given one unless Changed
+};
+
 // The general library: strings, product data, screen. The typed calls fail as automation calls do.
 class diBRVBLib : public LibraryBridge {
   public:
@@ -78,6 +90,11 @@ class diBRVBLib : public LibraryBridge {
     [[nodiscard]] std::string style_key(std::string_view style_name) const;
     // The sections of a number format, parted by the ";" that are not quoted.
     [[nodiscard]] std::vector<std::string> number_format_sections(std::string_view format) const;
+    // A number format with one decimal place more (step 1) or less (-1) in every section that shows numbers; "General"
+    // takes its decimals from how the number shows. And one that shows numbers a thousand times smaller or larger.
+    [[nodiscard]] AdjustedNumberFormat with_decimals(std::string_view format, std::int32_t step,
+                                                     std::string_view general_shows) const;
+    [[nodiscard]] AdjustedNumberFormat with_scale(std::string_view format, std::int32_t step) const;
     // Where the ")" stands, from 1 on, that closes an expression whose "(" stands before it; 0 when nothing does.
     [[nodiscard]] std::int32_t closing_parenthesis(std::string_view expression) const;
     // Whether an application's version text is a major version or a later one.

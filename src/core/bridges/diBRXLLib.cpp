@@ -35,6 +35,15 @@ automation::Value optional(std::optional<std::int32_t> number) {
     return *number;
 }
 
+// Calls visit(first, second) for each row of a table of two columns; Empty is one without rows.
+template <class Visit>
+void visit_pairs(const automation::Value& answer, Visit&& visit) {
+    const automation::Array* array = answer.array();
+    if (!array) return;
+    const auto& cells = array->elements();
+    for (std::size_t i = 0; i + 1 < cells.size(); i += 2) visit(cells[i], cells[i + 1]);
+}
+
 std::vector<std::string> texts_of(const automation::Value& answer) {
     std::vector<std::string> texts;
     if (const automation::Array* array = answer.array()) {
@@ -74,22 +83,39 @@ ObjectRef diBRXLLib::in_use(const ObjectRef& range) const {
 }
 
 std::vector<NumberFormatPart> diBRXLLib::number_formats(const ObjectRef& range) const {
-    const std::vector<std::string> texts = texts_of(call(Range, "NumberFormats", {range}));
     std::vector<NumberFormatPart> parts;
-    for (std::size_t i = 0; i + 1 < texts.size(); i += 2) parts.push_back({texts[i], texts[i + 1]});
+    visit_pairs(call(Range, "NumberFormats", {range}),
+                [&](const automation::Value& address, const automation::Value& format) {
+                    parts.push_back({automation::to_text(address), automation::to_text(format)});
+                });
     return parts;
 }
 
 std::vector<FontSizePart> diBRXLLib::font_sizes(const ObjectRef& range) const {
-    const automation::Value answer = call(Range, "FontSizes", {range});
     std::vector<FontSizePart> parts;
-    if (const automation::Array* array = answer.array()) {
-        const auto& cells = array->elements();
-        for (std::size_t i = 0; i + 1 < cells.size(); i += 2) {
-            parts.push_back({automation::to_text(cells[i]), automation::to_double(cells[i + 1])});
-        }
-    }
+    visit_pairs(call(Range, "FontSizes", {range}),
+                [&](const automation::Value& address, const automation::Value& points) {
+                    parts.push_back({automation::to_text(address), automation::to_double(points)});
+                });
     return parts;
+}
+
+std::vector<TextPart> diBRXLLib::text_parts(const ObjectRef& range, std::string_view text) const {
+    std::vector<TextPart> parts;
+    visit_pairs(call(Range, "TextParts", {range, text}),
+                [&](const automation::Value& address, const automation::Value& holds) {
+                    parts.push_back({automation::to_text(address), automation::to_boolean(holds)});
+                });
+    return parts;
+}
+
+std::vector<FormulaBlock> diBRXLLib::formula_blocks(const ObjectRef& range) const {
+    std::vector<FormulaBlock> blocks;
+    visit_pairs(call(Range, "FormulaBlocks", {range}), [&](const automation::Value& address,
+                                                           const automation::Value& kind) {
+        blocks.push_back({automation::to_text(address), static_cast<FormulaBlock::Kind>(automation::to_integer(kind))});
+    });
+    return blocks;
 }
 
 std::vector<CellLink> diBRXLLib::precedents(const ObjectRef& cell) const {
@@ -123,6 +149,16 @@ std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows
 std::string diBRXLLib::shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns,
                                      std::int32_t row, std::int32_t column) const {
     return automation::to_text(call(Formula, "Shift", {formula, rows, columns, row, column}));
+}
+
+std::optional<std::int32_t> diBRXLLib::anchor_of(std::string_view formula) const {
+    const automation::Value anchor = call(Formula, "AnchorOf", {formula});
+    if (anchor.is(automation::Value::Kind::Empty)) return std::nullopt;
+    return automation::to_integer(anchor);
+}
+
+std::string diBRXLLib::anchored(std::string_view formula, std::int32_t anchor) const {
+    return automation::to_text(call(Formula, "Anchored", {formula, anchor}));
 }
 
 ObjectRef diBRXLLib::open_workbook(std::string_view path) const {

@@ -38,6 +38,23 @@ struct FontSizePart {
     double points = 0;
 };
 
+// Cells that all hold a text, or none of which does.
+struct TextPart {
+    std::string address;  // as above
+    bool holds = false;
+};
+
+// A rectangle of formulas.
+struct FormulaBlock {
+    enum class Kind : std::int32_t {
+        Plain = 0,    // a formula of its own in every cell: Formula
+        Array = 1,    // one formula for all the cells: FormulaArray
+        Dynamic = 2,  // one cell whose formula may spill: Formula2
+    };
+    std::string address;  // as above
+    Kind kind = Kind::Plain;
+};
+
 // What a new button is to be like.
 struct ButtonDesign {
     std::string caption;
@@ -90,6 +107,12 @@ class diBRXLLib : public LibraryBridge {
     // The same by font size. Cells whose characters differ in size are in no part.
     [[nodiscard]] std::vector<FontSizePart> font_sizes(const automation::ObjectRef& range) const;
 
+    // Parts of a rectangle by whether the formula of a cell is the text. The part with a row's last cell comes after
+    // the row's others. Cells that a merged area covers are in none; of whole rows and columns the used ones count.
+    [[nodiscard]] std::vector<TextPart> text_parts(const automation::ObjectRef& range, std::string_view text) const;
+    // The rectangles of a range that hold formulas. Array formulas that lie only partly in it are left out.
+    [[nodiscard]] std::vector<FormulaBlock> formula_blocks(const automation::ObjectRef& range) const;
+
     // The cells that a cell's formula refers to, in the order of its text.
     [[nodiscard]] std::vector<CellLink> precedents(const automation::ObjectRef& cell) const;
     // The cells of all open workbooks whose formulas refer to a cell, its own sheet's first.
@@ -107,6 +130,11 @@ class diBRXLLib : public LibraryBridge {
     [[nodiscard]] std::string shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns) const;
     [[nodiscard]] std::string shift_formula(std::string_view formula, std::int32_t rows, std::int32_t columns,
                                             std::int32_t row, std::int32_t column) const;
+
+    // How the first reference of an A1 formula is anchored, nothing when it has none: 0 A1, 1 $A$1, 2 A$1, 3 $A1. And
+    // the formula with every reference anchored so.
+    [[nodiscard]] std::optional<std::int32_t> anchor_of(std::string_view formula) const;
+    [[nodiscard]] std::string anchored(std::string_view formula, std::int32_t anchor) const;
 
     // Opens the workbook of a file and makes it the active one; Nothing when it cannot be opened.
     [[nodiscard]] automation::ObjectRef open_workbook(std::string_view path) const;
