@@ -31,11 +31,9 @@ struct OneFile : brvblib::Files {
 
 struct Service {
     Service() {
-        xml = std::make_shared<brvblib::iXML>(
-            std::make_shared<brvblib::Library>(brvblib::Library{{.trace = trace,
-                                                                 .presenter = presenter,
-                                                                 .files = file,
-                                                                 .xml = std::make_shared<native::PugiXmlParser>()}}));
+        const brvblib::Services services{
+            .trace = trace, .presenter = presenter, .files = file, .xml = std::make_shared<native::PugiXmlParser>()};
+        xml = std::make_shared<brvblib::iXML>(std::make_shared<brvblib::Library>(services, nullptr));
     }
     ObjectRef load(std::string bytes) const {
         file->bytes = std::move(bytes);
