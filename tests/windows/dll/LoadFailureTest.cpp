@@ -8,6 +8,7 @@
 #include "windows/com/Unicode.h"
 #include "windows/dll/BoxWatcher.h"
 #include "windows/dll/Dll.h"
+#include "windows/dll/KnownUser.h"
 
 namespace kestrune::windows {
 namespace {
@@ -58,6 +59,7 @@ TEST(LoadFailure, OfTheSpreadsheetLibraryIsTheOneMessage) {
 }
 
 TEST(LoadFailure, DoesNotHappenWhenBothLibrariesAreThere) {
+    become_known_user();
     const Dll general(dll_path("BRVBLib"));
     const Dll spreadsheet(dll_path("BRXLLib"));
     const Registered first(general);
