@@ -9,6 +9,9 @@ namespace kestrune::forms {
 // Asks on a terminal: writes the question and its choices, reads a line. A choice is its name or the beginning of
 // its name, a plain Enter the default. Asks again when it cannot make sense of the line; at the end of the input
 // takes the answer that commits to least. A box with nothing to choose is only written.
+//
+// A form is written line by line, what can be changed in it with a number: "2" ticks or chooses what has that number,
+// "3=12" enters a value, a button's caption or the beginning of it presses the button, a plain Enter the default one.
 class ConsolePresenter : public Presenter {
   public:
     // Both streams outlive the presenter.
@@ -21,6 +24,7 @@ class ConsolePresenter : public Presenter {
   private:
     [[nodiscard]] std::optional<std::string> next_line();
     MsgBoxResult answer_to(const Message& message) override;
+    void work(Form& form) override;
 
     std::istream& input_;
     std::ostream& output_;

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "automation/Text.h"
+#include "forms/Form.h"
 
 namespace kestrune::forms {
 namespace {
@@ -51,6 +52,19 @@ MsgBoxResult ScriptedPresenter::answer_to(const Message& message) {
         if (offers(message.buttons, answer)) return answer;
     }
     return policy_answer(policy_, message.buttons);
+}
+
+void ScriptedPresenter::work(Form& form) {
+    forms_.push_back(form.Caption());
+    if (!scripts_.empty()) {
+        const FormScript script = std::move(scripts_.front());
+        scripts_.pop_front();
+        script(form);
+    }
+    const bool agrees = policy_ == AnswerPolicy::Ok || policy_ == AnswerPolicy::Yes;
+    Control* button = form.button(agrees ? Role::Default : Role::Cancel);
+    if (form.Visible() && button) form.click(*button);
+    if (form.Visible()) form.press(Key::Escape);
 }
 
 std::optional<std::string> ScriptedPresenter::choose_file(const FileDialog& dialog) {

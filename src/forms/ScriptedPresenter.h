@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,17 +38,27 @@ class ScriptedPresenter : public Presenter {
     // Every file dialog shown so far.
     [[nodiscard]] const std::vector<FileDialog>& file_dialogs() const { return file_dialogs_; }
 
+    // What a person would do with the next form that is not spoken for. When it is still shown afterwards, and for
+    // every other form, the policy decides: its default button or its cancel button; a form that then stays is closed.
+    using FormScript = std::function<void(Form& form)>;
+    void work_next(FormScript script) { scripts_.push_back(std::move(script)); }
+    // The captions of every form shown so far.
+    [[nodiscard]] const std::vector<std::string>& forms() const { return forms_; }
+
     // Every message shown so far.
     [[nodiscard]] const std::vector<Message>& messages() const { return messages_; }
 
   private:
     MsgBoxResult answer_to(const Message& message) override;
+    void work(Form& form) override;
 
     AnswerPolicy policy_;
     std::deque<MsgBoxResult> queue_;
     std::vector<Message> messages_;
     std::deque<std::optional<std::string>> files_;
     std::vector<FileDialog> file_dialogs_;
+    std::deque<FormScript> scripts_;
+    std::vector<std::string> forms_;
 };
 
 }  // namespace kestrune::forms

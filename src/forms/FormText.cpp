@@ -1,0 +1,98 @@
+#include "forms/FormText.h"
+
+#include "automation/Conversion.h"
+
+namespace kestrune::forms {
+namespace {
+
+bool is_box(const Control& control) {
+    switch (control.kind()) {
+        case Kind::Text:
+        case Kind::Combo:
+        case Kind::List:
+        case Kind::Spin:
+        case Kind::Tabs:
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::string without_colon(std::string text) {
+    if (text.ends_with(':')) text.pop_back();
+    return text;
+}
+
+int depth_of(const Control& control) {
+    int depth = 0;
+    for (const Control* holder = control.container(); holder; holder = holder->container()) ++depth;
+    return depth;
+}
+
+// Whether the control has a line of its own; the one before and the one behind it in tab order may be null.
+bool has_line(const Control& control, const Control* next) {
+    if (!control.shown()) return false;
+    switch (control.kind()) {
+        case Kind::Push:
+            return false;
+        case Kind::Label:
+            return !control.Caption().empty() && !(next && is_box(*next) && !next->is(Kind::Spin));
+        case Kind::Frame:
+        case Kind::Image:
+            return !control.Caption().empty();
+        case Kind::Spin:
+            return control.design().place != Place::Attached;
+        default:
+            return true;
+    }
+}
+
+std::string line_of(const Form& form, const Control& control) {
+    switch (control.kind()) {
+        case Kind::Option:
+            return (control.Checked() ? "(x) " : "( ) ") + control.Caption();
+        case Kind::Check:
+            return (control.Checked() ? "[x] " : "[ ] ") + control.Caption();
+        case Kind::Tabs:
+            return title_of(form, control) + ": " + control.List()[static_cast<std::size_t>(control.ListIndex())];
+        default:
+            return is_box(control) ? title_of(form, control) + ": " + automation::to_text(control.Value())
+                                   : control.Caption();
+    }
+}
+
+}  // namespace
+
+std::string title_of(const Form& form, const Control& control) {
+    if (!control.Caption().empty()) return without_colon(control.Caption());
+    const Control* before = nullptr;
+    for (const Control& other : form.controls()) {
+        if (&other == &control) break;
+        before = &other;
+    }
+    const bool labelled = before && before->container() == control.container() && !before->Caption().empty();
+    return labelled && before->is(Kind::Label) ? without_colon(before->Caption()) : std::string(control.Name());
+}
+
+std::vector<FormLine> form_lines(const Form& form) {
+    std::vector<FormLine> lines;
+    const auto& controls = form.controls();
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        if (!has_line(controls[i], i + 1 < controls.size() ? &controls[i + 1] : nullptr)) continue;
+        lines.push_back({&controls[i], depth_of(controls[i]), line_of(form, controls[i])});
+    }
+    return lines;
+}
+
+std::string chosen_text(const Form& form) {
+    std::string text;
+    for (const FormLine& line : form_lines(form)) {
+        const Control& control = *line.control;
+        const bool ticked = control.is(Kind::Option) || control.is(Kind::Check);
+        if (ticked ? !control.Checked() : !is_box(control)) continue;
+        text += (text.empty() ? "" : "; ") + (ticked ? control.Caption() : line.text);
+    }
+    return text;
+}
+
+}  // namespace kestrune::forms
