@@ -22,6 +22,7 @@ class Application : public Facade<Application> {
         {"Calculation", Access::get_put},
         {"CutCopyMode", Access::get_put},
         {"CommandBars", Access::get},
+        {"EnableEvents", Access::get_put},
         {"Goto", Access::method, "Reference Scroll"},
         {"Height", Access::get_put},
         {"Intersect", Access::method,
@@ -38,6 +39,9 @@ class Application : public Facade<Application> {
         {"ScreenUpdating", Access::get_put},
         {"Selection", Access::get},
         {"Top", Access::get_put},
+        {"Union", Access::method,
+         "Arg1! Arg2! Arg3 Arg4 Arg5 Arg6 Arg7 Arg8 Arg9 Arg10 Arg11 Arg12 Arg13 Arg14 Arg15 Arg16 Arg17 Arg18 Arg19 "
+         "Arg20 Arg21 Arg22 Arg23 Arg24 Arg25 Arg26 Arg27 Arg28 Arg29 Arg30"},
         {"Version", Access::get},
         {"Width", Access::get_put},
         {"WindowState", Access::get_put},
@@ -56,6 +60,8 @@ class Application : public Facade<Application> {
     // Whether copied or cut cells wait to be pasted, with a moving border around them.
     [[nodiscard]] bool CutCopyMode() const { return get<bool>("CutCopyMode"); }
     [[nodiscard]] excel::CommandBars CommandBars() const { return get<excel::CommandBars>("CommandBars"); }
+    [[nodiscard]] bool EnableEvents() const { return get<bool>("EnableEvents"); }
+    void EnableEvents(bool on) const { put("EnableEvents", on); }
     void Goto(const Range& reference) const { call("Goto", reference.object()); }
     // The cells that two ranges of one sheet share; Nothing when they share none.
     [[nodiscard]] Range Intersect(const Range& one, const Range& other) const {
@@ -76,6 +82,10 @@ class Application : public Facade<Application> {
     [[nodiscard]] bool Ready() const { return get<bool>("Ready"); }
     // A range, another object (a chart, a shape) or Nothing.
     [[nodiscard]] ObjectRef Selection() const { return get<ObjectRef>("Selection"); }
+    // The cells of two ranges of one sheet together.
+    [[nodiscard]] Range Union(const Range& one, const Range& other) const {
+        return call<Range>("Union", one.object(), other.object());
+    }
     [[nodiscard]] std::string Version() const { return get<std::string>("Version"); }
     [[nodiscard]] std::int32_t WindowState() const { return get<std::int32_t>("WindowState"); }  // XlWindowState
     void WindowState(std::int32_t state) const { put("WindowState", state); }

@@ -15,6 +15,8 @@ class Border : public Facade<Border> {
         {"Color", Access::get_put},
         {"ColorIndex", Access::get_put},
         {"LineStyle", Access::get_put},
+        {"ThemeColor", Access::get_put},
+        {"TintAndShade", Access::get_put},
         {"Weight", Access::get_put},
     });
     using Facade::Facade;
@@ -25,6 +27,11 @@ class Border : public Facade<Border> {
     void ColorIndex(Value value) const { put("ColorIndex", std::move(value)); }
     [[nodiscard]] Value LineStyle() const { return get("LineStyle"); }  // XlLineStyle; xlNone without a line
     void LineStyle(Value value) const { put("LineStyle", std::move(value)); }
+    // XlThemeColor; fails for a colour that is none of the theme's.
+    [[nodiscard]] Value ThemeColor() const { return get("ThemeColor"); }
+    void ThemeColor(Value value) const { put("ThemeColor", std::move(value)); }
+    [[nodiscard]] Value TintAndShade() const { return get("TintAndShade"); }  // -1 (black) to 1 (white)
+    void TintAndShade(Value value) const { put("TintAndShade", std::move(value)); }
     [[nodiscard]] Value Weight() const { return get("Weight"); }  // XlBorderWeight
     void Weight(Value value) const { put("Weight", std::move(value)); }
 };

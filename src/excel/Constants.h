@@ -61,6 +61,14 @@ inline constexpr std::int32_t xlEdgeRight = 10;
 inline constexpr std::int32_t xlInsideVertical = 11;
 inline constexpr std::int32_t xlInsideHorizontal = 12;
 
+// XlPattern
+inline constexpr std::int32_t xlSolid = 1;
+inline constexpr std::int32_t xlPatternLinearGradient = 4000;
+inline constexpr std::int32_t xlPatternRectangularGradient = 4001;
+
+// XlThemeFont
+inline constexpr std::int32_t xlThemeFontNone = 0;
+
 // XlColorIndex
 inline constexpr std::int32_t xlColorIndexAutomatic = -4105;
 
@@ -68,6 +76,7 @@ inline constexpr std::int32_t xlColorIndexAutomatic = -4105;
 inline constexpr std::int32_t xlCellValue = 1;
 inline constexpr std::int32_t xlExpression = 2;
 inline constexpr std::int32_t xlBetween = 1;
+inline constexpr std::int32_t xlNotBetween = 2;
 inline constexpr std::int32_t xlGreater = 5;
 inline constexpr std::int32_t xlLess = 6;
 

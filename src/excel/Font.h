@@ -18,6 +18,11 @@ class Font : public Facade<Font> {
         {"Name", Access::get_put},
         {"Size", Access::get_put},
         {"Strikethrough", Access::get_put},
+        {"Subscript", Access::get_put},
+        {"Superscript", Access::get_put},
+        {"ThemeColor", Access::get_put},
+        {"ThemeFont", Access::get_put},
+        {"TintAndShade", Access::get_put},
         {"Underline", Access::get_put},
     });
     using Facade::Facade;
@@ -37,6 +42,17 @@ class Font : public Facade<Font> {
     void Size(Value value) const { put("Size", std::move(value)); }
     [[nodiscard]] Value Strikethrough() const { return get("Strikethrough"); }
     void Strikethrough(Value value) const { put("Strikethrough", std::move(value)); }
+    [[nodiscard]] Value Subscript() const { return get("Subscript"); }
+    void Subscript(Value value) const { put("Subscript", std::move(value)); }
+    [[nodiscard]] Value Superscript() const { return get("Superscript"); }
+    void Superscript(Value value) const { put("Superscript", std::move(value)); }
+    // XlThemeColor; fails for a colour that is none of the theme's.
+    [[nodiscard]] Value ThemeColor() const { return get("ThemeColor"); }
+    void ThemeColor(Value value) const { put("ThemeColor", std::move(value)); }
+    [[nodiscard]] Value ThemeFont() const { return get("ThemeFont"); }  // XlThemeFont
+    void ThemeFont(Value value) const { put("ThemeFont", std::move(value)); }
+    [[nodiscard]] Value TintAndShade() const { return get("TintAndShade"); }  // -1 (black) to 1 (white)
+    void TintAndShade(Value value) const { put("TintAndShade", std::move(value)); }
     [[nodiscard]] Value Underline() const { return get("Underline"); }  // XlUnderlineStyle
     void Underline(Value value) const { put("Underline", std::move(value)); }
 };

@@ -21,6 +21,7 @@ class Range : public Facade<Range> {
   public:
     static constexpr std::string_view class_name = "Range";
     static constexpr auto members = std::to_array<MemberRow>({
+        {"AddIndent", Access::get_put},
         {"Address", Access::get, "RowAbsolute ColumnAbsolute ReferenceStyle External RelativeTo"},
         {"Areas", Access::get},
         {"AutoFit", Access::method},
@@ -41,6 +42,7 @@ class Range : public Facade<Range> {
         {"Formula", Access::get_put},
         {"Formula2", Access::get_put},
         {"FormulaArray", Access::get_put},
+        {"FormulaHidden", Access::get_put},
         {"FormulaR1C1", Access::get_put},
         {"Group", Access::method, "Start End By Periods"},
         {"HasArray", Access::get},
@@ -60,6 +62,7 @@ class Range : public Facade<Range> {
         {"OutlineLevel", Access::get_put},
         {"Parent", Access::get},
         {"PrefixCharacter", Access::get},
+        {"ReadingOrder", Access::get_put},
         {"Resize", Access::get, "RowSize ColumnSize"},
         {"Row", Access::get},
         {"RowHeight", Access::get_put},
@@ -69,8 +72,11 @@ class Range : public Facade<Range> {
         {"ShrinkToFit", Access::get_put},
         {"SpillParent", Access::get},
         {"SpecialCells", Access::method, "Type! Value"},
+        {"Style", Access::get_put},
         {"Text", Access::get},
         {"Ungroup", Access::method},
+        {"UseStandardHeight", Access::get_put},
+        {"UseStandardWidth", Access::get_put},
         {"Value", Access::get_put, "RangeValueDataType"},
         {"Value2", Access::get_put},
         {"VerticalAlignment", Access::get_put},
@@ -82,6 +88,8 @@ class Range : public Facade<Range> {
     // Whether an object is a range: a selection may as well be a chart or a shape.
     static bool is(const ObjectRef& object) { return object && object->type_name() == class_name; }
 
+    [[nodiscard]] excel::Value AddIndent() const { return get("AddIndent"); }  // of distributed texts
+    void AddIndent(excel::Value value) const { put("AddIndent", std::move(value)); }
     // "$B$2:$C$5", several areas parted by commas.
     [[nodiscard]] std::string Address() const { return get<std::string>("Address"); }
     // In the reference style asked for (xlA1, xlR1C1); external puts "[Book]Sheet!" in front.
@@ -123,6 +131,8 @@ class Range : public Facade<Range> {
     // One formula for all the cells.
     [[nodiscard]] excel::Value FormulaArray() const { return get("FormulaArray"); }
     void FormulaArray(std::string_view formula) const { put("FormulaArray", formula); }  // A1 or R1C1, with "="
+    [[nodiscard]] excel::Value FormulaHidden() const { return get("FormulaHidden"); }    // while the sheet is protected
+    void FormulaHidden(excel::Value value) const { put("FormulaHidden", std::move(value)); }
     [[nodiscard]] excel::Value FormulaR1C1() const { return get("FormulaR1C1"); }
     void FormulaR1C1(excel::Value value) const { put("FormulaR1C1", std::move(value)); }
     void Group() const { call("Group"); }                                    // one outline level deeper
@@ -138,8 +148,10 @@ class Range : public Facade<Range> {
     void Insert() const { call("Insert"); }
     [[nodiscard]] excel::Interior Interior() const { return get<excel::Interior>("Interior"); }
     [[nodiscard]] Range Item(std::int32_t row, std::int32_t column) const { return get<Range>("Item", row, column); }
-    [[nodiscard]] excel::Value Locked() const { return get("Locked"); }        // while the sheet is protected
-    [[nodiscard]] Range MergeArea() const { return get<Range>("MergeArea"); }  // the cell itself where it is not merged
+    [[nodiscard]] excel::Value Locked() const { return get("Locked"); }  // while the sheet is protected
+    void Locked(excel::Value value) const { put("Locked", std::move(value)); }
+    // The merged area that holds the range, else the cell itself; fails for a range that is neither.
+    [[nodiscard]] Range MergeArea() const { return get<Range>("MergeArea"); }
     [[nodiscard]] excel::Value MergeCells() const { return get("MergeCells"); }
     void MergeCells(excel::Value value) const { put("MergeCells", std::move(value)); }
     [[nodiscard]] excel::Value NumberFormat() const { return get("NumberFormat"); }
@@ -150,6 +162,8 @@ class Range : public Facade<Range> {
     void OutlineLevel(excel::Value value) const { put("OutlineLevel", std::move(value)); }
     [[nodiscard]] excel::Worksheet Parent() const;
     [[nodiscard]] excel::Value PrefixCharacter() const { return get("PrefixCharacter"); }
+    [[nodiscard]] excel::Value ReadingOrder() const { return get("ReadingOrder"); }  // xlContext, xlLTR, xlRTL
+    void ReadingOrder(excel::Value value) const { put("ReadingOrder", std::move(value)); }
     // As many rows and columns, from the same top-left cell.
     [[nodiscard]] Range Resize(std::int32_t rows, std::int32_t columns) const {
         return get<Range>("Resize", rows, columns);
@@ -167,8 +181,17 @@ class Range : public Facade<Range> {
     [[nodiscard]] Range SpillParent() const { return get<Range>("SpillParent"); }
     // XlCellType; fails when there are none.
     [[nodiscard]] Range SpecialCells(std::int32_t type) const { return call<Range>("SpecialCells", type); }
+    // The cells' named style, a Style object.
+    [[nodiscard]] excel::Value Style() const { return get("Style"); }
+    // By name. Gives the cells everything that the style says.
+    void Style(excel::Value value) const { put("Style", std::move(value)); }
     [[nodiscard]] excel::Value Text() const { return get("Text"); }  // as the sheet shows it
     void Ungroup() const { call("Ungroup"); }
+    // Whether rows (columns) have the sheet's standard height (width); True gives it to them.
+    [[nodiscard]] excel::Value UseStandardHeight() const { return get("UseStandardHeight"); }
+    void UseStandardHeight(excel::Value value) const { put("UseStandardHeight", std::move(value)); }
+    [[nodiscard]] excel::Value UseStandardWidth() const { return get("UseStandardWidth"); }
+    void UseStandardWidth(excel::Value value) const { put("UseStandardWidth", std::move(value)); }
     [[nodiscard]] excel::Value Value() const { return get("Value"); }  // a 2-D array for several cells
     void Value(excel::Value value) const { put("Value", std::move(value)); }
     [[nodiscard]] excel::Value Value2() const { return get("Value2"); }  // dates as their serials

@@ -58,6 +58,8 @@ constexpr auto classes = std::to_array<ClassIdentity>({
     {"KestruneHost", "Outline", "e2cd84ef-a80e-40f6-baee-9a3a0f232f2d", "6d2c938e-1d3c-49a9-bcbb-55e912e5a8ed"},
     {"KestruneHost", "Range", "b98ae29e-6cfd-400b-a0d2-0a10e2d93d9c", "83f75deb-ff21-4b46-babe-71a0bc31b1c5"},
     {"KestruneHost", "Sheets", "e53e33a5-46f8-4151-b6e2-7ea0fa910448", "33f6c045-ea79-4984-9804-35f0714c98f5"},
+    {"KestruneHost", "Style", "e1955dc5-5c27-41ce-aae5-30b7967f4160", "6e0a17d6-4ba1-4c6e-84f8-48faf85ba0f7"},
+    {"KestruneHost", "Styles", "7f7d4d77-020b-4d0c-bd18-cd1a6aa4ad19", "5dd49f79-eb45-4df4-8c30-816c4cf151b2"},
     {"KestruneHost", "Window", "7902cb6b-f6f5-428a-a120-f086c6f54981", "4daaf17e-308c-4b68-9ece-cad0b8b42635"},
     {"KestruneHost", "Windows", "f1f96c98-7e21-4562-8639-afc0c1915da3", "49c480fe-bfcc-46e3-9806-64c3a5053056"},
     {"KestruneHost", "Workbook", "4aebf349-4ca8-4a1f-84cc-bd06b09b3ffa", "5ea4ceb1-d50c-4de2-97e4-98a2ab93afd3"},

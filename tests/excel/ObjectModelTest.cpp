@@ -8,6 +8,7 @@
 #include "excel/CommandBarButton.h"
 #include "excel/CommandBarPopup.h"
 #include "excel/PublishedModel.h"
+#include "excel/Style.h"
 
 namespace kestrune::excel {
 namespace {
@@ -52,7 +53,7 @@ struct Facades {
 using AllFacades = Facades<Application, Areas, Border, Borders, CommandBar, CommandBarButton, CommandBarControl,
                            CommandBarControls, CommandBarPopup, CommandBars, Font, FormatCondition, FormatConditions,
                            Hyperlink, Hyperlinks, Interior, ListObject, ListObjects, Name, Names, Outline, Protection,
-                           Range, Window, Workbook, Workbooks, Worksheet, Worksheets>;
+                           Range, Style, Window, Workbook, Workbooks, Worksheet, Worksheets>;
 
 TEST(ObjectModel, EveryMemberThatAFacadeCallsIsExcels) {
     EXPECT_THAT(AllFacades::compare(), testing::IsEmpty());

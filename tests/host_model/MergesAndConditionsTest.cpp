@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "host/model/AreaCut.h"
+#include "formula/AreaCut.h"
 #include "host/model/ConditionalMatch.h"
 #include "host/model/Workbook.h"
 

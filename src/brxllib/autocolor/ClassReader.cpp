@@ -1,60 +1,19 @@
 #include "brxllib/autocolor/ClassReader.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <variant>
 
 #include "automation/Conversion.h"
+#include "brxllib/BlockAnswer.h"
 #include "brxllib/autocolor/Rectangles.h"
 #include "formula/Selection.h"
 
 namespace kestrune::brxllib {
 namespace {
 
-using automation::Array;
 using automation::Value;
 using formula::Area;
-
-// The elements of a block that Excel answered, row by row; a single cell comes without an array.
-class Elements {
-  public:
-    Elements(Value answer, const Area& area) : answer_(std::move(answer)) {
-        const Array* array = answer_.array();
-        const auto cells = static_cast<std::size_t>(area.cells());
-        if ((array ? array->elements().size() : 1) != cells) {
-            throw automation::AutomationError(automation::hresult::type_mismatch, "Range",
-                                              "the answer has not one element a cell");
-        }
-    }
-    const Value& operator[](std::size_t index) const {
-        const Array* array = answer_.array();
-        return array ? array->elements()[index] : answer_;
-    }
-
-  private:
-    Value answer_;
-};
-
-// Whether cells that read as formulas are some: a text may look like one. Asks for the whole block first.
-class FormulaTest {
-  public:
-    FormulaTest(const excel::Range& range, const Area& area) : range_(range), area_(area) {}
-
-    bool holds(std::size_t index) {
-        if (!whole_) whole_ = range_.HasFormula();
-        if (!whole_->is(Value::Kind::Null)) return automation::to_boolean(*whole_);
-        const auto width = static_cast<std::size_t>(area_.columns());
-        return automation::to_boolean(
-            range_.Cells(static_cast<std::int32_t>(index / width) + 1, static_cast<std::int32_t>(index % width) + 1)
-                .HasFormula());
-    }
-
-  private:
-    const excel::Range& range_;
-    const Area& area_;
-    std::optional<Value> whole_;
-};
 
 std::vector<Area> parsed(const std::string& address) {
     auto read = formula::parse_selection(address);
@@ -65,8 +24,8 @@ std::vector<Area> parsed(const std::string& address) {
 }  // namespace
 
 ClassBlock ClassReader::read(const excel::Range& range, const Area& area) {
-    const Elements formulas(range.Formula(), area);
-    const Elements values(range.Value(), area);
+    const BlockAnswer formulas(range.Formula(), area);
+    const BlockAnswer values(range.Value(), area);
     FormulaTest has_formula(range, area);
     ClassBlock block{area, {}};
     block.cells.reserve(static_cast<std::size_t>(area.cells()));

@@ -1,18 +1,26 @@
 #pragma once
 
+#include <optional>
+
 #include "automation/Value.h"
 #include "formula/Area.h"
 
 namespace kestrune::brxllib {
 
+// Whether an answer says that the cells differ.
+inline bool is_mixed(const automation::Value& answer) { return answer.is(automation::Value::Kind::Null); }
+template <class T>
+bool is_mixed(const std::optional<T>& answer) {
+    return !answer.has_value();
+}
+
 // Parts an area into rectangles whose cells are alike in something that Excel answers Null for when cells differ.
-// read(area) asks Excel; visit(area, answer) gets each uniform rectangle and what all its cells have. A single cell
-// that still answers Null is passed over. Sheets differ by columns or by rows, so the first column and the first row of
-// a mixed area tell which way to cut it.
+// read(area) asks Excel and answers a Value, or an optional of what several answers together say; visit(area, answer)
+// gets each uniform rectangle and what all its cells have. A single cell that is still mixed is passed over. Sheets
+// differ by columns or by rows, so the first column and the first row of a mixed area tell which way to cut it.
 template <class Read, class Visit>
 void visit_uniform_parts(const formula::Area& area, Read&& read, Visit&& visit) {
-    const auto is_mixed = [](const automation::Value& answer) { return answer.is(automation::Value::Kind::Null); };
-    const automation::Value answer = read(area);
+    const auto answer = read(area);
     if (!is_mixed(answer)) {
         visit(area, answer);
         return;

@@ -55,6 +55,7 @@ class Snapshot {
 
   private:
     struct State;
+    static std::optional<Snapshot> record(State state, std::size_t most_bytes, const automation::Trace& trace);
     explicit Snapshot(std::shared_ptr<const State> state) : state_(std::move(state)) {}
 
     std::shared_ptr<const State> state_;

@@ -4,6 +4,7 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
+#include <optional>
 #include <set>
 
 #include "cli/diff/Rectangles.h"
@@ -54,6 +55,14 @@ unsigned edge_of(std::size_t property) {
     }
     return 0;
 }
+
+std::size_t property_of(host::Edge edge) {
+    std::size_t property = 0;
+    while (edge_of(property) != static_cast<unsigned>(edge)) ++property;
+    return property;
+}
+
+constexpr std::string_view no_line = "none";
 
 std::string rules_text(const std::vector<host::ConditionalFormat>& formats) {
     std::vector<std::string> lines;
@@ -146,7 +155,17 @@ void SheetDiff::columns() {
              fmt::format("{:.4g}", after_.column_width(first)));
         note("Hidden", a.hidden ? "True" : "False", b.hidden ? "True" : "False");
         note("OutlineLevel", fmt::format("{}", a.outline_level + 1), fmt::format("{}", b.outline_level + 1));
-        tell_line_format(changes, first, last, {a.style, b.style});
+        if (differences({a.style, b.style}).empty()) continue;
+        for (std::int32_t column = first; column <= last; ++column) {
+            StylePair pair{a.style, b.style};
+            pair.taken_over = lines_taken_over(pair, [&](host::Edge edge) -> std::optional<StylePair> {
+                // Above and below lies the column itself.
+                const std::int32_t beside = column - (edge == host::Edge::Left) + (edge == host::Edge::Right);
+                if (beside < 1 || beside > formula::max_columns) return std::nullopt;
+                return StylePair{before_.columns().style_at(beside), after_.columns().style_at(beside)};
+            });
+            tell_line_format(changes, column, column, pair);
+        }
     }
     for (const LineChanges::Line& line : changes.lines()) {
         tell_({on_sheet(formula::area_text({1, line.first, formula::max_rows, line.last})), line.property, line.before,
@@ -174,7 +193,17 @@ void SheetDiff::rows() {
         note("Hidden", a.hidden ? "True" : "False", b.hidden ? "True" : "False");
         note("OutlineLevel", fmt::format("{}", a.outline_level + 1), fmt::format("{}", b.outline_level + 1));
         if (a.has_style || b.has_style) {
-            tell_line_format(changes, row, row, {a.has_style ? a.style : 0, b.has_style ? b.style : 0});
+            StylePair pair{a.has_style ? a.style : 0, b.has_style ? b.style : 0};
+            pair.taken_over = lines_taken_over(pair, [&](host::Edge edge) -> std::optional<StylePair> {
+                const std::int32_t beside = row - (edge == host::Edge::Top) + (edge == host::Edge::Bottom);
+                const auto style_of = [&](host::Sheet& sheet) {
+                    const host::RowFormat* format = sheet.row_format(beside);
+                    return format && format->has_style ? format->style : 0;
+                };
+                if (beside < 1 || beside > formula::max_rows) return std::nullopt;
+                return StylePair{style_of(before_), style_of(after_)};
+            });
+            tell_line_format(changes, row, row, pair);
         }
     }
     for (const LineChanges::Line& line : changes.lines()) {
@@ -224,23 +253,39 @@ void SheetDiff::collect_cells() {
     }
 }
 
-// The line between two cells is one, whichever of them it is stored with: where a cell's line is now drawn by its
-// neighbour, the neighbour's change tells of it.
-unsigned SheetDiff::lines_taken_over(Position at, StylePair pair) {
+// The line between two cells is one, whichever of them it is stored with: where it moved to the neighbour nothing
+// changed, and where it is the neighbour's line that changed, the neighbour tells of it.
+template <class Beside>
+unsigned SheetDiff::lines_taken_over(StylePair pair, Beside&& beside) {
     unsigned edges = 0;
-    for (const std::size_t i : differences(pair)) {
+    const std::vector<std::size_t> differing = differences({pair.before, pair.after, 0});
+    for (const std::size_t i : differing) {
         const unsigned edge = edge_of(i);
-        if (edge == 0 || after_facts_[pair.after][i] != "none") continue;
-        Position beside = at;
-        if (edge == static_cast<unsigned>(host::Edge::Left)) --beside.column;
-        if (edge == static_cast<unsigned>(host::Edge::Right)) ++beside.column;
-        if (edge == static_cast<unsigned>(host::Edge::Top)) --beside.row;
-        if (edge == static_cast<unsigned>(host::Edge::Bottom)) ++beside.row;
-        if (!beside.on_sheet()) continue;
-        const host::Border& border = after_.workbook().styles.border_of(after_.style_at(beside));
-        if (border.line(host::facing(static_cast<host::Edge>(edge))).style != host::LineStyle::None) edges |= edge;
+        if (edge == 0) continue;
+        const std::optional<StylePair> neighbour = beside(static_cast<host::Edge>(edge));
+        if (!neighbour) continue;
+        const std::size_t facing = property_of(host::facing(static_cast<host::Edge>(edge)));
+        const std::string& theirs_before = before_facts_[neighbour->before][facing];
+        const std::string& theirs_after = after_facts_[neighbour->after][facing];
+        const std::string& own_before = before_facts_[pair.before][i];
+        const std::string& own_after = after_facts_[pair.after][i];
+        const std::string& shown_before = own_before == no_line ? theirs_before : own_before;
+        const std::string& shown_after = own_after == no_line ? theirs_after : own_after;
+        if (shown_before == shown_after || (own_after == no_line && theirs_after != no_line)) edges |= edge;
     }
     return edges;
+}
+
+unsigned SheetDiff::lines_taken_over(Position at, StylePair pair) {
+    return lines_taken_over(pair, [&](host::Edge edge) -> std::optional<StylePair> {
+        Position beside = at;
+        if (edge == host::Edge::Left) --beside.column;
+        if (edge == host::Edge::Right) ++beside.column;
+        if (edge == host::Edge::Top) --beside.row;
+        if (edge == host::Edge::Bottom) ++beside.row;
+        if (!beside.on_sheet()) return std::nullopt;
+        return StylePair{before_.style_at(beside), after_.style_at(beside)};
+    });
 }
 
 void SheetDiff::compare_cell(Position at) {

@@ -34,6 +34,10 @@ class SheetDiff {
     void tell_format(const std::string& place, StylePair pair);
     void tell_line_format(LineChanges& changes, std::int32_t first, std::int32_t last, StylePair pair);
     void compare_cell(formula::Position at);
+    // The sides, bits of Edge, on which a person sees the same line as before, or whose change the neighbour tells;
+    // beside gives the formats across a side, if there is a neighbour.
+    template <class Beside>
+    [[nodiscard]] unsigned lines_taken_over(StylePair pair, Beside&& beside);
     [[nodiscard]] unsigned lines_taken_over(formula::Position at, StylePair pair);
     [[nodiscard]] std::string on_sheet(const std::string& reference) const;
     void tell_if_changed(const std::string& place, std::string_view property, std::string before, std::string after);

@@ -1,10 +1,12 @@
 #include "host/model/ConditionalFormat.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
+#include "formula/AreaCut.h"
 #include "formula/Shift.h"
-#include "host/model/AreaCut.h"
+#include "host/model/ConditionPriorities.h"
 #include "host/model/Sheet.h"
 
 namespace kestrune::host {
@@ -20,6 +22,19 @@ formula::Position ConditionalFormat::anchor() const {
 std::vector<ConditionalFormat>& Sheet::conditional_formats() {
     ensure_loaded();
     return conditional_formats_;
+}
+
+void close_priority_gap(std::vector<ConditionalFormat>& formats, std::int32_t gone) {
+    for (std::int32_t next = gone + 1;; ++next) {
+        ConditionalRule* found = nullptr;
+        for (ConditionalFormat& format : formats) {
+            if (format.extension) continue;
+            const auto rule = std::ranges::find(format.rules, next, &ConditionalRule::priority);
+            if (rule != format.rules.end()) found = &*rule;
+        }
+        if (!found) return;
+        found->priority = next - 1;
+    }
 }
 
 void Sheet::delete_conditional_formats(const Area& area) {
@@ -47,8 +62,14 @@ void Sheet::delete_conditional_formats(const Area& area) {
                 text = formula::shift_formula(text, after.row - before.row, after.column - before.column,
                                               formula::OffSheet::wrap);
     }
-    if (conditional_formats_changed)
-        std::erase_if(conditional_formats_, [](const ConditionalFormat& format) { return format.areas.empty(); });
+    if (!conditional_formats_changed) return;
+    std::vector<std::int32_t> gone;
+    for (const ConditionalFormat& format : conditional_formats_)
+        if (format.areas.empty())
+            for (const ConditionalRule& rule : format.rules) gone.push_back(rule.priority);
+    std::erase_if(conditional_formats_, [](const ConditionalFormat& format) { return format.areas.empty(); });
+    std::ranges::sort(gone, std::greater());
+    for (const std::int32_t priority : gone) close_priority_gap(conditional_formats_, priority);
 }
 
 }  // namespace kestrune::host

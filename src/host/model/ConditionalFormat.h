@@ -19,6 +19,7 @@ struct ConditionalRule {
     bool stop_if_true = false;
     std::optional<std::uint32_t> differential;  // position in StyleTable::differentials
     std::string source;                         // the whole element as the file has it; empty for a rule of ours
+    std::int32_t handle = 0;                    // by which it is known while its priority changes; 0: to nobody yet
 };
 
 // The rules that hold for one set of areas.

@@ -8,6 +8,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "formula/Edit.h"
@@ -216,6 +217,10 @@ class Sheet {
     [[nodiscard]] const Formula* live_array_at(Position at) const;
     [[nodiscard]] bool array_is_live(std::uint32_t index) const;
     void before_overwriting(const Cell& cell, Position at);
+    // Formulas that leave their cells are remembered with the results that they showed, since nothing here works them
+    // out: one that comes back to its cell shows its result again.
+    void remember_result(const Cell& cell, Position at);
+    void show_result_again(Position at);
     void make_blank(Cell& cell);
     bool follow_in_cells(const formula::Edit& edit, bool own);
     bool follow_in_rules(const formula::Edit& edit, bool own);
@@ -248,6 +253,7 @@ class Sheet {
     std::vector<std::uint32_t> arrays_;  // the formulas_ that cover more than their own cell
     std::vector<std::unique_ptr<CellColumn>> cells_;
     std::vector<Formula> formulas_;
+    std::unordered_map<std::uint64_t, Cell> results_;  // by place; the cells as they were
     std::map<std::int32_t, RowFormat> rows_;
     std::vector<BlankCell> styled_rows_;
     bool styled_rows_known_ = false;

@@ -1,5 +1,6 @@
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "formula/Shift.h"
@@ -9,6 +10,29 @@
 #include "host/model/Workbook.h"
 
 namespace kestrune::host {
+namespace {
+
+// Beyond this many forgotten results nobody waits for one of them.
+constexpr std::size_t most_results = 200'000;
+
+std::uint64_t key_of(Position at) {
+    return static_cast<std::uint64_t>(at.row) << 32U | static_cast<std::uint32_t>(at.column);
+}
+
+// What a formula says in one of its cells.
+std::string text_of(const Formula& formula, Position at) {
+    switch (formula.kind) {
+        case Formula::Kind::Shared:
+            return formula::shift_formula(formula.text, at.row - formula.anchor.row, at.column - formula.anchor.column,
+                                          formula::OffSheet::wrap);
+        case Formula::Kind::DataTable:
+            return data_table_text(formula.attributes);
+        default:
+            return formula.text;
+    }
+}
+
+}  // namespace
 
 CellContent CellContent::of(double number) {
     CellContent content;
@@ -80,16 +104,7 @@ const Formula* Sheet::formula_record(Position at) {
 
 std::string Sheet::formula_at(Position at) {
     const Formula* formula = formula_record(at);
-    if (!formula) return {};
-    switch (formula->kind) {
-        case Formula::Kind::Shared:
-            return formula::shift_formula(formula->text, at.row - formula->anchor.row,
-                                          at.column - formula->anchor.column, formula::OffSheet::wrap);
-        case Formula::Kind::DataTable:
-            return data_table_text(formula->attributes);
-        default:
-            return formula->text;
-    }
+    return formula ? text_of(*formula, at) : std::string();
 }
 
 void Sheet::require_whole_arrays(const Area& area) {
@@ -107,7 +122,27 @@ void Sheet::value_changed() {
     workbook_.recalculate_on_load = true;
 }
 
+void Sheet::remember_result(const Cell& cell, Position at) {
+    if (cell.kind == CellKind::Blank || results_.size() >= most_results) return;
+    const bool in_array =
+        std::ranges::any_of(arrays_, [&](std::uint32_t index) { return formulas_[index].reach.contains(at); });
+    if (cell.formula != 0 || in_array) results_.insert_or_assign(key_of(at), cell);
+}
+
+void Sheet::show_result_again(Position at) {
+    const auto known = results_.find(key_of(at));
+    Cell* cell = column_or_new(at.column).find(at.row);
+    if (known == results_.end() || !cell) return;
+    Cell shown = known->second;
+    shown.style = cell->style;
+    shown.formula = cell->formula;
+    shown.source = cell->source;
+    shown.flags = cell->flags;
+    *cell = shown;
+}
+
 void Sheet::before_overwriting(const Cell& cell, Position at) {
+    remember_result(cell, at);
     if (cell.formula == 0) return;
     const std::uint32_t number = cell.formula;
     const Formula& formula = formulas_[number - 1];
@@ -202,8 +237,13 @@ void Sheet::set_formula(Position at, std::string text) {
     formula.text = std::move(text);
     formula.anchor = at;
     formula.reach = Area::cell(at);
+    const std::string& entered = formula.text;
+    const auto left = results_.find(key_of(at));
+    const bool comes_back = left != results_.end() && left->second.formula != 0 &&
+                            text_of(formulas_[left->second.formula - 1], at) == entered;
     const std::uint32_t number = add_loaded_formula(std::move(formula));
     cell_for_content(at).formula = number;
+    if (comes_back) show_result_again(at);
 }
 
 void Sheet::set_array_formula(const Area& reach, std::string text) {
@@ -214,8 +254,17 @@ void Sheet::set_array_formula(const Area& reach, std::string text) {
     formula.kind = Formula::Kind::Array;
     formula.anchor = reach.top_left();
     formula.reach = reach;
+    const auto left = results_.find(key_of(reach.top_left()));
+    bool comes_back = left != results_.end() && left->second.formula != 0;
+    if (comes_back) {
+        const Formula& before = formulas_[left->second.formula - 1];
+        comes_back = before.kind == Formula::Kind::Array && before.reach == reach && before.text == formula.text;
+    }
     const std::uint32_t number = add_loaded_formula(std::move(formula));
     cell_for_content(reach.top_left()).formula = number;
+    if (!comes_back) return;
+    for (std::int32_t column = reach.first_column; column <= reach.last_column; ++column)
+        for (std::int32_t row = reach.first_row; row <= reach.last_row; ++row) show_result_again({row, column});
 }
 
 void Sheet::clear_content(const Area& area) {

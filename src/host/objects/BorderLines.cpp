@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "host/objects/Refusal.h"
 
@@ -68,6 +69,20 @@ std::vector<Line> diagonals(const CellRange& cells, std::int32_t index) {
     return lines;
 }
 
+// The two halves of an area, one above the other, or side by side.
+std::pair<Area, Area> halves(const Area& area, bool above) {
+    Area first = area;
+    Area second = area;
+    if (above) {
+        first.last_row = area.first_row + area.rows() / 2 - 1;
+        second.first_row = first.last_row + 1;
+    } else {
+        first.last_column = area.first_column + area.columns() / 2 - 1;
+        second.first_column = first.last_column + 1;
+    }
+    return {first, second};
+}
+
 class Writer {
   public:
     Writer(const CellRange& cells, const Change& change) : cells_(cells), change_(change) {}
@@ -86,24 +101,40 @@ class Writer {
         }
     }
 
+    // One line shows all along, whichever side stores it, and that line is what changes, on both sides. An edge with
+    // several is taken apart until each part has one.
     void rim(const Area& area, Edge edge) const {
-        // Where one line shows all along, whichever side stores it, that line is what changes.
-        const std::vector<Line> shown = cells_.sheet().edge_lines(area, edge);
-        const std::optional<Line> line = shown.size() == 1 ? std::optional(changed(shown.front())) : std::nullopt;
-        restyle(strip_of(area, edge), [&](Border& border) { update(border.line(edge), line); });
+        const std::vector<Line> wanted = changed(cells_.sheet().edge_lines(area, edge));
+        if (wanted.size() > 1) {
+            const auto [first, second] = halves(strip_of(area, edge), edge == Edge::Left || edge == Edge::Right);
+            rim(first, edge);
+            rim(second, edge);
+            return;
+        }
+        const Line& line = wanted.front();
+        restyle(strip_of(area, edge), [&](Border& border) { border.line(edge) = line; });
         follow(area, edge, line);
     }
 
     void inside(const Area& area, bool between_columns) const {
-        const std::vector<Line> shown = cells_.sheet().inside_lines(area, between_columns);
-        const std::optional<Line> line = shown.size() == 1 ? std::optional(changed(shown.front())) : std::nullopt;
+        const std::vector<Line> wanted = changed(cells_.sheet().inside_lines(area, between_columns));
+        if (wanted.empty()) return;
+        if (wanted.size() > 1) {
+            const bool above = parts_above(area, between_columns);
+            const auto [first, second] = halves(area, above);
+            inside(first, between_columns);
+            if (above != between_columns) rim(first, between_columns ? Edge::Right : Edge::Bottom);
+            inside(second, between_columns);
+            return;
+        }
+        const Line& line = wanted.front();
         Area before = area;
         Area after = area;
         (between_columns ? before.last_column : before.last_row) -= 1;
         (between_columns ? after.first_column : after.first_row) += 1;
         const Edge trailing = between_columns ? Edge::Right : Edge::Bottom;
-        restyle(before, [&](Border& border) { update(border.line(trailing), line); });
-        restyle(after, [&](Border& border) { update(border.line(facing(trailing)), line); });
+        restyle(before, [&](Border& border) { border.line(trailing) = line; });
+        restyle(after, [&](Border& border) { border.line(facing(trailing)) = line; });
     }
 
     void everything(const Area& area) const {
@@ -111,25 +142,46 @@ class Writer {
         for (const Edge edge : all_edges) add(shown, cells_.sheet().edge_lines(area, edge));
         add(shown, cells_.sheet().inside_lines(area, true));
         add(shown, cells_.sheet().inside_lines(area, false));
-        const std::optional<Line> line = shown.size() == 1 ? std::optional(changed(shown.front())) : std::nullopt;
+        const std::vector<Line> wanted = changed(shown);
+        if (wanted.size() > 1) {
+            inside(area, true);
+            inside(area, false);
+            for (const Edge edge : all_edges) rim(area, edge);
+            return;
+        }
+        const Line& line = wanted.front();
         restyle(area, [&](Border& border) {
-            for (const Edge edge : all_edges) update(border.line(edge), line);
+            for (const Edge edge : all_edges) border.line(edge) = line;
         });
         for (const Edge edge : all_edges) follow(area, edge, line);
     }
 
   private:
-    [[nodiscard]] Line changed(Line line) const {
-        change_(line);
-        return line;
+    // The distinct lines that these become.
+    [[nodiscard]] std::vector<Line> changed(std::vector<Line> lines) const {
+        std::vector<Line> distinct;
+        for (Line& line : lines) {
+            change_(line);
+            add(distinct, {line});
+        }
+        return distinct;
     }
 
-    void update(Line& line, const std::optional<Line>& known) const {
-        if (known) {
-            line = *known;
-        } else {
-            change_(line);
-        }
+    // Whether an area with different lines inside is parted into an upper and a lower half: sheets differ by rows or by
+    // columns, and the first of each tell by which.
+    [[nodiscard]] bool parts_above(const Area& area, bool between_columns) const {
+        if (area.rows() == 1) return false;
+        if (area.columns() == 1) return true;
+        // Two columns have one line between them.
+        if (between_columns && area.columns() == 2) return true;
+        if (!between_columns && area.rows() == 2) return false;
+        Area top = area;
+        Area left = area;
+        top.last_row = between_columns ? area.first_row : area.first_row + 1;
+        left.last_column = between_columns ? area.first_column + 1 : area.first_column;
+        const bool row_differs = cells_.sheet().inside_lines(top, between_columns).size() > 1;
+        const bool column_differs = cells_.sheet().inside_lines(left, between_columns).size() > 1;
+        return row_differs == column_differs ? area.rows() >= area.columns() : column_differs;
     }
 
     void restyle(const Area& area, const std::function<void(Border&)>& change) const {
@@ -137,18 +189,18 @@ class Writer {
     }
 
     // The neighbours' side of the line, where they draw one of their own.
-    void follow(const Area& area, Edge edge, const std::optional<Line>& line) const {
+    void follow(const Area& area, Edge edge, const Line& line) const {
         const auto neighbours = neighbours_of(area, edge);
         if (!neighbours) return;
         const Edge side = facing(edge);
         const auto draws = [&](StyleId id) {
             const Line& own = cells_.styles().border_of(id).line(side);
-            return own.style != LineStyle::None && !(line && own == *line);
+            return own.style != LineStyle::None && !(own == line);
         };
         if (std::ranges::none_of(cells_.sheet().styles_in(*neighbours), draws)) return;
         cells_.sheet().restyle(*neighbours, [&](StyleId id) {
             if (!draws(id)) return id;
-            return cells_.styles().with_border(id, [&](Border& border) { update(border.line(side), line); });
+            return cells_.styles().with_border(id, [&](Border& border) { border.line(side) = line; });
         });
     }
 

@@ -31,8 +31,13 @@ automation::Value color_index(const Workbook& workbook, const Color& color) {
 }
 
 automation::Value theme_color(const Color& color) {
-    if (color.kind != Color::Kind::Theme) return automation::Null{};
+    if (color.kind != Color::Kind::Theme) return {};
     return static_cast<std::int32_t>(color.value) + 1;
+}
+
+automation::Value themed(std::string_view member, automation::Value answer) {
+    if (answer.is(automation::Value::Kind::Empty)) refuse(member, "the colour is none of the theme's");
+    return answer;
 }
 
 Color color_of_value(std::int32_t bgr) { return Color::rgb(static_cast<std::uint32_t>(bgr) & 0xFFFFFFU); }

@@ -15,8 +15,11 @@ namespace kestrune::host {
 automation::Value color_value(const Workbook& workbook, const Color& color, std::uint32_t automatic);
 // 1..56 of the palette: the entry itself, or the nearest to a true colour. xlAutomatic for an automatic or absent one.
 automation::Value color_index(const Workbook& workbook, const Color& color);
-// 1..12 as XlThemeColor; Null for a colour that is none of the theme's.
+// 1..12 as XlThemeColor; Empty for a colour that is none of the theme's.
 automation::Value theme_color(const Color& color);
+// What ThemeColor answers where theme_color of all colours together is this: Null stays Null, and a colour that is none
+// of the theme's is error 1004 (Microsoft's reference: "an invalid request run-time error").
+automation::Value themed(std::string_view member, automation::Value answer);
 
 // Excel keeps the lower 24 bits; recorded macros write the byte above them as FF.
 Color color_of_value(std::int32_t bgr);

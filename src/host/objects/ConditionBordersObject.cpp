@@ -39,8 +39,9 @@ const MemberTable& ConditionBorderObject::members() {
     static constexpr auto rows = automation::member_rows(
         read_only<&B::application>("Application", 1), read_only<&B::parent>("Parent", 2),
         property<&B::line_style, &B::set_line_style>("LineStyle", 3), property<&B::weight, &B::set_weight>("Weight", 4),
-        property<&B::color, &B::set_color>("Color", 5),
-        property<&B::color_index, &B::set_color_index>("ColorIndex", 6));
+        property<&B::color, &B::set_color>("Color", 5), property<&B::color_index, &B::set_color_index>("ColorIndex", 6),
+        property<&B::theme_color, &B::set_theme_color>("ThemeColor", 7),
+        property<&B::tint_and_shade, &B::set_tint_and_shade>("TintAndShade", 8));
     static constexpr MemberTable table("Border", rows);
     return table;
 }
@@ -58,7 +59,9 @@ const MemberTable& ConditionBordersObject::members() {
         read_only<&B::application>("Application", 1), read_only<&B::parent>("Parent", 2),
         read_only<&B::count>("Count", 3), property<&B::line_style, &B::set_line_style>("LineStyle", 4),
         property<&B::weight, &B::set_weight>("Weight", 5), property<&B::color, &B::set_color>("Color", 6),
-        property<&B::color_index, &B::set_color_index>("ColorIndex", 7));
+        property<&B::color_index, &B::set_color_index>("ColorIndex", 7),
+        property<&B::theme_color, &B::set_theme_color>("ThemeColor", 8),
+        property<&B::tint_and_shade, &B::set_tint_and_shade>("TintAndShade", 9));
     static constexpr MemberTable table("Borders", rows);
     return table;
 }

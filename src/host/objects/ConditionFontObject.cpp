@@ -63,7 +63,7 @@ void ConditionFontObject::set_color_index(std::int32_t index) {
 
 Value ConditionFontObject::theme_color() const {
     const auto color = rule_.differential().font_color;
-    return color ? host::theme_color(*color) : Value(Null{});
+    return color ? themed("Font.ThemeColor", host::theme_color(*color)) : Value(Null{});
 }
 
 void ConditionFontObject::set_theme_color(std::int32_t color) {

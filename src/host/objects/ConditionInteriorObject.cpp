@@ -73,12 +73,49 @@ void ConditionInteriorObject::set_pattern(std::int32_t pattern) {
     });
 }
 
+Value ConditionInteriorObject::theme_color() const {
+    const auto fill = rule_.differential().fill;
+    return fill ? themed("Interior.ThemeColor", host::theme_color(condition_color(*fill))) : Value(Null{});
+}
+
+void ConditionInteriorObject::set_theme_color(std::int32_t color) {
+    write_color("Interior.ThemeColor", color_of_theme("Interior.ThemeColor", color));
+}
+
+Value ConditionInteriorObject::tint_and_shade() const {
+    const auto fill = rule_.differential().fill;
+    return fill ? Value(condition_color(*fill).tint) : Value(Null{});
+}
+
+void ConditionInteriorObject::set_tint_and_shade(double tint) {
+    const auto fill = rule_.differential().fill;
+    if (!fill) return;
+    Color color = condition_color(*fill);
+    color.tint = checked_tint("Interior.TintAndShade", tint);
+    write_color("Interior.TintAndShade", color);
+}
+
+Value ConditionInteriorObject::pattern_color() const {
+    const auto fill = rule_.differential().fill;
+    if (!fill || fill->pattern == Pattern::None || fill->pattern == Pattern::Solid) return Null{};
+    return color_value(rule_.workbook(), fill->foreground, 0);
+}
+
+void ConditionInteriorObject::set_pattern_color(std::int32_t bgr) {
+    rule_.change_differential("Interior.PatternColor", [&](DifferentialFormat& format) {
+        if (format.fill) set_line_color(*format.fill, color_of_value(bgr));
+    });
+}
+
 const MemberTable& ConditionInteriorObject::members() {
     using I = ConditionInteriorObject;
     static constexpr auto rows = automation::member_rows(
         read_only<&I::application>("Application", 1), read_only<&I::parent>("Parent", 2),
         property<&I::color, &I::set_color>("Color", 3), property<&I::color_index, &I::set_color_index>("ColorIndex", 4),
-        property<&I::pattern, &I::set_pattern>("Pattern", 5));
+        property<&I::pattern, &I::set_pattern>("Pattern", 5),
+        property<&I::theme_color, &I::set_theme_color>("ThemeColor", 6),
+        property<&I::tint_and_shade, &I::set_tint_and_shade>("TintAndShade", 7),
+        property<&I::pattern_color, &I::set_pattern_color>("PatternColor", 8));
     static constexpr MemberTable table("Interior", rows);
     return table;
 }

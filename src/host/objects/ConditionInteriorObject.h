@@ -19,6 +19,12 @@ class ConditionInteriorObject final : public HostObject<ConditionInteriorObject>
     void set_color_index(std::int32_t index);  // xlNone takes the fill away
     [[nodiscard]] Value pattern() const;       // XlPattern
     void set_pattern(std::int32_t pattern);
+    [[nodiscard]] Value theme_color() const;  // XlThemeColor; error 1004 when it is none of the theme's
+    void set_theme_color(std::int32_t color);
+    [[nodiscard]] Value tint_and_shade() const;  // -1 to 1
+    void set_tint_and_shade(double tint);
+    [[nodiscard]] Value pattern_color() const;  // BGR; Null without a pattern's lines
+    void set_pattern_color(std::int32_t bgr);
 
   private:
     void write_color(std::string_view member, const Color& color) const;

@@ -47,6 +47,23 @@ class ConditionLinesObject : public HostObject<Derived> {
         write("Border.ColorIndex", [&](Line& line) { set_line_color(line, color); });
     }
 
+    [[nodiscard]] Value theme_color() const {
+        return themed("Border.ThemeColor", read([](const Line& line) { return host::theme_color(line.color); }));
+    }
+    void set_theme_color(std::int32_t color) {
+        const Color stored = color_of_theme("Border.ThemeColor", color);
+        write("Border.ThemeColor", [&](Line& line) { set_line_color(line, stored); });
+    }
+    [[nodiscard]] Value tint_and_shade() const {
+        return read([](const Line& line) { return Value(line.color.tint); });
+    }
+    void set_tint_and_shade(double tint) {
+        const double checked = checked_tint("Border.TintAndShade", tint);
+        write("Border.TintAndShade", [&](Line& line) {
+            if (line.style != LineStyle::None) line.color.tint = checked;
+        });
+    }
+
   protected:
     ConditionLinesObject(ConditionRule rule, std::vector<Edge> edges)
         : HostObject<Derived>(rule.session()), rule_(rule), edges_(std::move(edges)) {}

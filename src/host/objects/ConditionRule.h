@@ -7,11 +7,11 @@
 
 namespace kestrune::host {
 
-// One rule of a sheet's conditional formats, found again by its priority as long as it exists.
+// One rule of a sheet's conditional formats, known as long as it exists, whatever becomes of its priority.
 class ConditionRule {
   public:
-    ConditionRule(HostSession& session, Sheet& sheet, std::int32_t priority)
-        : session_(&session), sheet_(&sheet), priority_(priority) {}
+    // The rule that has this priority now.
+    ConditionRule(HostSession& session, Sheet& sheet, std::int32_t priority);
 
     [[nodiscard]] HostSession& session() const { return *session_; }
     [[nodiscard]] Sheet& sheet() const { return *sheet_; }
@@ -25,17 +25,24 @@ class ConditionRule {
     [[nodiscard]] DifferentialFormat differential() const;
     void change_differential(std::string_view member, const std::function<void(DifferentialFormat&)>& change) const;
 
-    // Before any change: refused on a protected sheet, and for a rule whose kind only other programs can make.
+    // The cell that formulas are written for: the active one, or of a sheet that is not active the corner of the
+    // rule's own cells, which is what they are stored and told for.
+    [[nodiscard]] Position viewpoint() const;
+    // Before it gets other cells, or goes: refused on a protected sheet.
+    void require_allowed(std::string_view member) const;
+    // Before any other change: refused as well for a rule whose kind only other programs can make.
     void require_changeable(std::string_view member) const;
     // After a change: the rule is written from its fields.
     void changed() const;
+    // After it got other cells: it is written as it stood, for these.
+    void moved() const;
     void remove();
     void set_priority(std::int32_t priority);
 
   private:
     HostSession* session_;
     Sheet* sheet_;
-    std::int32_t priority_;
+    std::int32_t handle_;
 };
 
 }  // namespace kestrune::host

@@ -105,4 +105,9 @@ inline constexpr std::int32_t xlThemeFontNone = 0;
 inline constexpr std::int32_t xlThemeFontMinor = 1;
 inline constexpr std::int32_t xlThemeFontMajor = 2;
 
+// Reading order
+inline constexpr std::int32_t xlContext = -5002;
+inline constexpr std::int32_t xlLTR = -5003;
+inline constexpr std::int32_t xlRTL = -5004;
+
 }  // namespace kestrune::host

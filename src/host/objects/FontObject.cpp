@@ -151,7 +151,7 @@ void FontObject::set_color_index(std::int32_t index) {
 }
 
 Value FontObject::theme_color() const {
-    return read([](const Font& font) { return host::theme_color(font.color); });
+    return themed("Font.ThemeColor", read([](const Font& font) { return host::theme_color(font.color); }));
 }
 
 void FontObject::set_theme_color(std::int32_t color) {

@@ -37,7 +37,7 @@ class FontObject final : public HostObject<FontObject> {
     void set_color(std::int32_t bgr);          // a true colour
     [[nodiscard]] Value color_index() const;   // 1..56, the nearest of the palette; xlAutomatic
     void set_color_index(std::int32_t index);  // 1..56, xlAutomatic
-    [[nodiscard]] Value theme_color() const;   // XlThemeColor; Null when the colour is none of the theme's
+    [[nodiscard]] Value theme_color() const;   // XlThemeColor; error 1004 when it is none of the theme's
     void set_theme_color(std::int32_t color);
     [[nodiscard]] Value theme_font() const;  // XlThemeFont
     void set_theme_font(std::int32_t font);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "formula/Shift.h"
 #include "host/number_format/NumberFormat.h"
 #include "host/objects/ConditionBordersObject.h"
 #include "host/objects/ConditionFontObject.h"
@@ -19,15 +20,27 @@ void FormatConditionObject::modify_applies_to_range(const ObjectRef& range) {
     constexpr std::string_view member = "FormatCondition.ModifyAppliesToRange";
     const auto wanted = range_argument(member, range);
     if (&wanted->cell_range().sheet() != &rule_.sheet()) refuse(member, "the range is on another sheet");
-    rule_.require_changeable(member);
-    ConditionalRule moved = rule_.rule();
-    rule_.remove();
-    ConditionalFormat fresh;
-    fresh.areas = wanted->cell_range().areas();
-    moved.source.clear();
-    fresh.rules.push_back(std::move(moved));
-    rule_.sheet().conditional_formats().push_back(std::move(fresh));
-    rule_.changed();
+    rule_.require_allowed(member);
+    ConditionalFormat& format = rule_.format();
+    const Position before = format.anchor();
+    auto& formats = rule_.sheet().conditional_formats();
+    auto holder = formats.begin() + (&format - formats.data());
+    if (format.rules.size() > 1) {
+        if (format.extension) refuse(member, "a part of this conditional format cannot be changed");
+        ConditionalFormat fresh;
+        fresh.pivot = format.pivot;
+        fresh.rules.push_back(rule_.rule());
+        std::erase_if(format.rules, [&](const ConditionalRule& rule) { return rule.priority == priority(); });
+        holder = formats.insert(formats.end(), std::move(fresh));
+    }
+    // What the rule says of its cells, it says of the others just so; all that nobody here reads of it stays.
+    holder->areas = wanted->cell_range().areas();
+    const Position after = holder->anchor();
+    for (std::string& text : holder->rules.front().formulas) {
+        text =
+            formula::shift_formula(text, after.row - before.row, after.column - before.column, formula::OffSheet::wrap);
+    }
+    rule_.moved();
 }
 
 std::int32_t FormatConditionObject::type() const { return condition_type(rule_.rule()); }
@@ -51,10 +64,8 @@ void FormatConditionObject::modify(std::int32_t type, const Value& operation, co
                                    const Value& formula2) {
     constexpr std::string_view member = "FormatCondition.Modify";
     rule_.require_changeable(member);
-    const Position first = rule_.format().areas.front().top_left();
-    const bool active = session().active_sheet() == &rule_.sheet();
-    ConditionalRule changed = condition_rule(member, type, operation, formula1, formula2,
-                                             active ? rule_.sheet().view().active_cell : first, first);
+    ConditionalRule changed =
+        condition_rule(member, type, operation, formula1, formula2, rule_.viewpoint(), rule_.format().anchor());
     ConditionalRule& rule = rule_.rule();
     changed.priority = rule.priority;
     changed.differential = rule.differential;

@@ -39,7 +39,9 @@ ObjectRef FormatConditionsObject::add(std::int32_t type, const Value& operation,
     constexpr std::string_view member = "FormatConditions.Add";
     cells_.require_format_allowed(member);
     Sheet& sheet = cells_.sheet();
-    const Position first = cells_.first().top_left();
+    ConditionalFormat fresh;
+    fresh.areas = cells_.areas();
+    const Position first = fresh.anchor();
     const Position active = session().active_sheet() == &sheet ? sheet.view().active_cell : first;
     ConditionalRule rule = condition_rule(member, type, operation, formula1, formula2, active, first);
     auto& formats = sheet.conditional_formats();
@@ -52,8 +54,6 @@ ObjectRef FormatConditionsObject::add(std::int32_t type, const Value& operation,
     };
     auto holder = std::ranges::find_if(formats, same_cells);
     if (holder == formats.end()) {
-        ConditionalFormat fresh;
-        fresh.areas = cells_.areas();
         holder = formats.insert(formats.end(), std::move(fresh));
     }
     holder->rules.push_back(std::move(rule));

@@ -46,8 +46,9 @@ void InteriorObject::set_color_index(std::int32_t index) {
 }
 
 Value InteriorObject::theme_color() const {
-    return read(
-        [](const Fill& fill) -> Value { return unfilled(fill) ? Value(Null{}) : host::theme_color(cell_color(fill)); });
+    return themed("Interior.ThemeColor", read([](const Fill& fill) {
+                      return unfilled(fill) ? Value() : host::theme_color(cell_color(fill));
+                  }));
 }
 
 void InteriorObject::set_theme_color(std::int32_t color) {
@@ -98,6 +99,29 @@ void InteriorObject::set_pattern_color_index(std::int32_t index) {
     write("Interior.PatternColorIndex", [&](Fill& fill) { set_line_color(fill, color); });
 }
 
+Value InteriorObject::pattern_theme_color() const {
+    return themed("Interior.PatternThemeColor",
+                  read([](const Fill& fill) { return host::theme_color(line_color(fill)); }));
+}
+
+void InteriorObject::set_pattern_theme_color(std::int32_t color) {
+    const Color stored = color_of_theme("Interior.PatternThemeColor", color);
+    write("Interior.PatternThemeColor", [&](Fill& fill) { set_line_color(fill, stored); });
+}
+
+Value InteriorObject::pattern_tint_and_shade() const {
+    return read([](const Fill& fill) { return line_color(fill).tint; });
+}
+
+void InteriorObject::set_pattern_tint_and_shade(double tint) {
+    const double checked = checked_tint("Interior.PatternTintAndShade", tint);
+    write("Interior.PatternTintAndShade", [&](Fill& fill) {
+        Color color = line_color(fill);
+        color.tint = checked;
+        set_line_color(fill, color);
+    });
+}
+
 const MemberTable& InteriorObject::members() {
     using I = InteriorObject;
     static constexpr auto rows = automation::member_rows(
@@ -107,7 +131,9 @@ const MemberTable& InteriorObject::members() {
         property<&I::tint_and_shade, &I::set_tint_and_shade>("TintAndShade", 6),
         property<&I::pattern, &I::set_pattern>("Pattern", 7),
         property<&I::pattern_color, &I::set_pattern_color>("PatternColor", 8),
-        property<&I::pattern_color_index, &I::set_pattern_color_index>("PatternColorIndex", 9));
+        property<&I::pattern_color_index, &I::set_pattern_color_index>("PatternColorIndex", 9),
+        property<&I::pattern_theme_color, &I::set_pattern_theme_color>("PatternThemeColor", 10),
+        property<&I::pattern_tint_and_shade, &I::set_pattern_tint_and_shade>("PatternTintAndShade", 11));
     static constexpr MemberTable table("Interior", rows);
     return table;
 }

@@ -29,6 +29,10 @@ class InteriorObject final : public HostObject<InteriorObject> {
     void set_pattern_color(std::int32_t bgr);
     [[nodiscard]] Value pattern_color_index() const;
     void set_pattern_color_index(std::int32_t index);
+    [[nodiscard]] Value pattern_theme_color() const;  // XlThemeColor; error 1004 when it is none of the theme's
+    void set_pattern_theme_color(std::int32_t color);
+    [[nodiscard]] Value pattern_tint_and_shade() const;  // -1 to 1
+    void set_pattern_tint_and_shade(double tint);
 
   private:
     template <class Read>

@@ -40,7 +40,7 @@ class LinesObject : public HostObject<Derived> {
         write_color("Border.ColorIndex", color_of_index("Border.ColorIndex", index));
     }
     [[nodiscard]] Value theme_color() const {
-        return read([](const Line& line) { return host::theme_color(line.color); });
+        return themed("Border.ThemeColor", read([](const Line& line) { return host::theme_color(line.color); }));
     }
     void set_theme_color(std::int32_t color) {
         write_color("Border.ThemeColor", color_of_theme("Border.ThemeColor", color));

@@ -10,6 +10,8 @@
 #include "host/objects/InteriorObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/Refusal.h"
+#include "host/objects/StyleObject.h"
+#include "host/objects/StylesObject.h"
 
 namespace kestrune::host {
 namespace {
@@ -86,6 +88,9 @@ std::int32_t rotation_of_orientation(std::int32_t orientation) {
     }
     return orientation >= 0 ? orientation : 90 - orientation;
 }
+
+// In the order in which files count them (ECMA-376 18.8.1).
+constexpr std::int32_t reading_orders[] = {xlContext, xlLTR, xlRTL};
 
 // Whether the workbook knows the code already, or has room for one more.
 bool has_room_for(const StyleTable& styles, std::string_view code) {
@@ -182,6 +187,42 @@ Value RangeObject::wrap_text() const {
 
 void RangeObject::set_wrap_text(bool on) {
     write_format("Range.WrapText", [&](CellFormat& format) { format.alignment.wrap = on; });
+}
+
+Value RangeObject::reading_order() const {
+    return read_format([](const CellFormat& format) {
+        const auto order = static_cast<std::size_t>(format.alignment.reading_order);
+        return order < std::size(reading_orders) ? reading_orders[order] : xlContext;
+    });
+}
+
+void RangeObject::set_reading_order(std::int32_t order) {
+    const auto* known = std::ranges::find(reading_orders, order);
+    if (known == std::end(reading_orders)) refuse("Range.ReadingOrder", "there is no such reading order");
+    const auto stored = static_cast<std::int32_t>(known - reading_orders);
+    write_format("Range.ReadingOrder", [&](CellFormat& format) { format.alignment.reading_order = stored; });
+}
+
+Value RangeObject::style() const {
+    const Value position =
+        read_format([](const CellFormat& format) { return static_cast<std::int32_t>(format.named_style); });
+    if (position.is(Value::Kind::Null)) return position;
+    return std::make_shared<StyleObject>(session(), cells_.workbook(),
+                                         static_cast<std::uint32_t>(automation::to_integer(position)));
+}
+
+void RangeObject::set_style(const Value& style) {
+    constexpr std::string_view member = "Range.Style";
+    const std::uint32_t position = style_argument(member, cells_.workbook(), style);
+    const CellFormat format = cells_.styles().named_styles[position].format;
+    write_format(member, [&](CellFormat& changed) {
+        const bool quoted = changed.quote_prefix;
+        const bool button = changed.pivot_button;
+        changed = format;
+        changed.named_style = position;
+        changed.quote_prefix = quoted;
+        changed.pivot_button = button;
+    });
 }
 
 Value RangeObject::locked() const {

@@ -103,8 +103,32 @@ Value RangeObject::use_standard_height() const {
     });
 }
 
+void RangeObject::set_use_standard_height(bool on) {
+    require_allowed(cells_.sheet(), cells_.sheet().protection().format_rows, "Range.UseStandardHeight");
+    if (!on) return;
+    for (const Area& area : cells_.areas()) {
+        cells_.sheet().change_rows(area.first_row, area.last_row, [](RowFormat& row) {
+            row.height = -1;
+            row.custom_height = false;
+        });
+    }
+    cells_.changed();
+}
+
 Value RangeObject::use_standard_width() const {
     return common_of_columns(cells_, [&](const ColumnRun& run) { return Value(run.width < 0); });
+}
+
+void RangeObject::set_use_standard_width(bool on) {
+    require_allowed(cells_.sheet(), cells_.sheet().protection().format_columns, "Range.UseStandardWidth");
+    if (!on) return;
+    for (const Area& area : cells_.areas()) {
+        cells_.sheet().columns().change(area.first_column, area.last_column, [](ColumnRun& run) {
+            run.width = -1;
+            run.custom_width = false;
+        });
+    }
+    cells_.changed();
 }
 
 double RangeObject::height() const {

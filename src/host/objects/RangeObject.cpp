@@ -52,17 +52,18 @@ const MemberTable& RangeObject::members() {
         property<&R::formula_hidden, &R::set_formula_hidden>("FormulaHidden", 51),
         property<&R::row_height, &R::set_row_height>("RowHeight", 52),
         property<&R::column_width, &R::set_column_width>("ColumnWidth", 53),
-        read_only<&R::use_standard_height>("UseStandardHeight", 54),
-        read_only<&R::use_standard_width>("UseStandardWidth", 55), read_only<&R::height>("Height", 56),
-        read_only<&R::width>("Width", 57), read_only<&R::left>("Left", 58), read_only<&R::top>("Top", 59),
-        property<&R::hidden, &R::set_hidden>("Hidden", 60),
+        property<&R::use_standard_height, &R::set_use_standard_height>("UseStandardHeight", 54),
+        property<&R::use_standard_width, &R::set_use_standard_width>("UseStandardWidth", 55),
+        read_only<&R::height>("Height", 56), read_only<&R::width>("Width", 57), read_only<&R::left>("Left", 58),
+        read_only<&R::top>("Top", 59), property<&R::hidden, &R::set_hidden>("Hidden", 60),
         property<&R::outline_level, &R::set_outline_level>("OutlineLevel", 61),
         property<&R::merge_cells, &R::set_merge_cells>("MergeCells", 62), read_only<&R::merge_area>("MergeArea", 63),
         method<&R::merge>("Merge", 64, "[Across]"), method<&R::un_merge>("UnMerge", 65),
         read_only<&R::hyperlinks>("Hyperlinks", 66), method<&R::group>("Group", 67, "[Start], [End], [By], [Periods]"),
         method<&R::ungroup>("Ungroup", 68), method<&R::special_cells>("SpecialCells", 69, "Type, [Value]"),
         method<&R::insert>("Insert", 70, "[Shift], [CopyOrigin]"), method<&R::remove>("Delete", 71, "[Shift]"),
-        method<&R::auto_fit>("AutoFit", 72));
+        method<&R::auto_fit>("AutoFit", 72), property<&R::style, &R::set_style>("Style", 73),
+        property<&R::reading_order, &R::set_reading_order>("ReadingOrder", 74));
     static constexpr MemberTable table("Range", rows);
     return table;
 }

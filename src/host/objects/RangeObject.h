@@ -103,6 +103,10 @@ class RangeObject final : public HostObject<RangeObject> {
     void set_shrink_to_fit(bool on);
     [[nodiscard]] Value wrap_text() const;
     void set_wrap_text(bool on);
+    [[nodiscard]] Value reading_order() const;  // xlContext, xlLTR, xlRTL
+    void set_reading_order(std::int32_t order);
+    [[nodiscard]] Value style() const;   // a Style
+    void set_style(const Value& style);  // a Style or its name; cells get everything that it says
     [[nodiscard]] Value locked() const;
     void set_locked(bool on);
     [[nodiscard]] Value formula_hidden() const;
@@ -114,7 +118,9 @@ class RangeObject final : public HostObject<RangeObject> {
     [[nodiscard]] Value column_width() const;  // characters of the Normal font
     void set_column_width(double characters);  // 0 to 255; 0 hides
     [[nodiscard]] Value use_standard_height() const;
+    void set_use_standard_height(bool on);  // False changes nothing
     [[nodiscard]] Value use_standard_width() const;
+    void set_use_standard_width(bool on);
     [[nodiscard]] double height() const;  // points, of the first area, as the three below
     [[nodiscard]] double width() const;
     [[nodiscard]] double left() const;

@@ -7,6 +7,7 @@
 #include "host/objects/Optional.h"
 #include "host/objects/SheetObject.h"
 #include "host/objects/SheetsObject.h"
+#include "host/objects/StylesObject.h"
 #include "host/objects/WindowsObject.h"
 
 namespace kestrune::host {
@@ -85,6 +86,8 @@ Value WorkbookObject::link_sources(const Value& type) const {
     return list;
 }
 
+ObjectRef WorkbookObject::styles() const { return std::make_shared<StylesObject>(session(), workbook_); }
+
 void WorkbookObject::reset_colors() {
     workbook_.palette = default_palette();
     workbook_.palette_changed = true;
@@ -123,7 +126,7 @@ const MemberTable& WorkbookObject::members() {
         read_only<&W::date1904>("Date1904", 16), method<&W::save>("Save", 17),
         method<&W::close>("Close", 18, "[SaveChanges], [FileName], [RouteWorkbook]"),
         method<&W::delete_number_format>("DeleteNumberFormat", 19, "NumberFormat"),
-        method<&W::link_sources>("LinkSources", 20, "[Type]"));
+        method<&W::link_sources>("LinkSources", 20, "[Type]"), read_only<&W::styles>("Styles", 21));
     static constexpr MemberTable table("Workbook", rows);
     return table;
 }

@@ -25,6 +25,7 @@ class WorkbookObject final : public HostObject<WorkbookObject> {
     void set_colors(const Value& index, const Value& color);
     // The workbooks that formulas link to, as paths (XlLink: xlExcelLinks); Empty when there are none.
     [[nodiscard]] Value link_sources(const Value& type) const;
+    [[nodiscard]] ObjectRef styles() const;
     void reset_colors();
     // What shows in it is General afterwards. Error 1004 for a built-in format and one that is not there.
     void delete_number_format(const std::string& code);

@@ -18,6 +18,8 @@
 #include "host/objects/OutlineObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/SheetsObject.h"
+#include "host/objects/StyleObject.h"
+#include "host/objects/StylesObject.h"
 #include "host/objects/WindowObject.h"
 #include "host/objects/WindowsObject.h"
 #include "host/objects/WorkbookObject.h"
@@ -34,12 +36,26 @@ std::vector<Library> libraries() {
         // Its members answer whatever Excel's would, so no C++ type names the classes.
         {"KestruneHost",
          &host::ApplicationObject::members,
-         {&host::AreasObject::members, &host::BorderObject::members, &host::BordersObject::members,
-          &host::ChartSheetObject::members, &host::FontObject::members, &host::FormatConditionObject::members,
-          &host::FormatConditionsObject::members, &host::InteriorObject::members, &host::NameObject::members,
-          &host::NamesObject::members, &host::OutlineObject::members, &host::RangeObject::members,
-          &host::SheetsObject::members, &host::WindowObject::members, &host::WindowsObject::members,
-          &host::WorkbookObject::members, &host::WorkbooksObject::members, &host::WorksheetObject::members,
+         {&host::AreasObject::members,
+          &host::BorderObject::members,
+          &host::BordersObject::members,
+          &host::ChartSheetObject::members,
+          &host::FontObject::members,
+          &host::FormatConditionObject::members,
+          &host::FormatConditionsObject::members,
+          &host::InteriorObject::members,
+          &host::NameObject::members,
+          &host::NamesObject::members,
+          &host::OutlineObject::members,
+          &host::RangeObject::members,
+          &host::SheetsObject::members,
+          &host::StyleObject::members,
+          &host::StylesObject::members,
+          &host::WindowObject::members,
+          &host::WindowsObject::members,
+          &host::WorkbookObject::members,
+          &host::WorkbooksObject::members,
+          &host::WorksheetObject::members,
           &host::WorksheetsObject::members}},
     };
 }

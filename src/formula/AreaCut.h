@@ -4,9 +4,9 @@
 
 #include "formula/Area.h"
 
-namespace kestrune::host {
+namespace kestrune::formula {
 
 // What is left of an area without another: up to four rectangles, whole rows of it above and below the hole.
-[[nodiscard]] std::vector<formula::Area> area_without(const formula::Area& area, const formula::Area& hole);
+[[nodiscard]] std::vector<Area> area_without(const Area& area, const Area& hole);
 
-}  // namespace kestrune::host
+}  // namespace kestrune::formula

@@ -1,8 +1,6 @@
-#include "host/model/AreaCut.h"
+#include "formula/AreaCut.h"
 
-namespace kestrune::host {
-
-using formula::Area;
+namespace kestrune::formula {
 
 std::vector<Area> area_without(const Area& area, const Area& hole) {
     const auto common = area.intersection(hole);
@@ -18,4 +16,4 @@ std::vector<Area> area_without(const Area& area, const Area& hole) {
     return left;
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::formula
