@@ -25,6 +25,8 @@
 #include "host/objects/ProtectionObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/SheetsObject.h"
+#include "host/objects/StyleObject.h"
+#include "host/objects/StylesObject.h"
 #include "host/objects/WindowObject.h"
 #include "host/objects/WindowsObject.h"
 #include "host/objects/WorkbookObject.h"
@@ -79,6 +81,8 @@ TEST(ServedMembers, AreExcels) {
         &ProtectionObject::members(),
         &PopupObject::members(),
         &RangeObject::members(),
+        &StyleObject::members(),
+        &StylesObject::members(),
         &SheetsObject::members(),
         &WindowObject::members(),
         &WindowsObject::members(),

@@ -89,6 +89,17 @@ struct SheetDefaults {
     bool changed = false;  // differs from the file
 };
 
+// Cells of one column (or alike columns) and a line across one of their edges that they and their neighbours there do
+// not both draw.
+struct UnsettledLine {
+    Area cells;
+    Line shown;
+    bool own;        // the cells are to draw it
+    bool neighbour;  // those across are to
+
+    bool take(const UnsettledLine& next);  // grows downwards by the next if that is alike; whether it was
+};
+
 // One sheet of a workbook. Its content is read from the file at the first touch.
 class Sheet {
   public:
@@ -148,6 +159,10 @@ class Sheet {
     [[nodiscard]] std::vector<Line> edge_lines(const Area& area, Edge edge);
     // The distinct lines between the area's columns (or rows); empty when it has one only.
     [[nodiscard]] std::vector<Line> inside_lines(const Area& area, bool between_columns);
+    // Makes both neighbours draw the line that shows between them; along a side those beyond it do only if they draw
+    // one.
+    void settle_edge_lines(const Area& area, Edge edge);
+    void settle_inside_lines(const Area& area, bool between_columns);
     // Takes away what the neighbours around the area draw along these sides (bits of Edge), so that the area's own
     // lines, or none, show there.
     void clear_facing_lines(const Area& area, unsigned edges);
@@ -242,7 +257,16 @@ class Sheet {
     void visit_beside(std::int32_t column, std::int32_t first_row, std::int32_t last_row, Visit&& visit);
     template <class Visit>
     void visit_below(std::int32_t column, std::int32_t first_row, std::int32_t last_row, Visit&& visit);
-    [[nodiscard]] std::vector<std::int32_t> telling_columns(std::int32_t first, std::int32_t last);
+    struct Columns {
+        std::int32_t first;
+        std::int32_t last;
+    };
+    [[nodiscard]] std::vector<Columns> alike_columns(std::int32_t first, std::int32_t last);
+    template <class Visit>
+    void visit_rim(const Area& area, Edge edge, Visit&& visit);
+    template <class Visit>
+    void visit_inside(const Area& area, bool between_columns, Visit&& visit);
+    void settle(const std::vector<UnsettledLine>& lines, Edge edge);
     friend class Restyling;
 
     Workbook& workbook_;

@@ -69,20 +69,6 @@ std::vector<Line> diagonals(const CellRange& cells, std::int32_t index) {
     return lines;
 }
 
-// The two halves of an area, one above the other, or side by side.
-std::pair<Area, Area> halves(const Area& area, bool above) {
-    Area first = area;
-    Area second = area;
-    if (above) {
-        first.last_row = area.first_row + area.rows() / 2 - 1;
-        second.first_row = first.last_row + 1;
-    } else {
-        first.last_column = area.first_column + area.columns() / 2 - 1;
-        second.first_column = first.last_column + 1;
-    }
-    return {first, second};
-}
-
 class Writer {
   public:
     Writer(const CellRange& cells, const Change& change) : cells_(cells), change_(change) {}
@@ -101,40 +87,24 @@ class Writer {
         }
     }
 
-    // One line shows all along, whichever side stores it, and that line is what changes, on both sides. An edge with
-    // several is taken apart until each part has one.
+    // One line shows between neighbours, whichever of them stores it, and that line is what changes, on both sides.
     void rim(const Area& area, Edge edge) const {
-        const std::vector<Line> wanted = changed(cells_.sheet().edge_lines(area, edge));
-        if (wanted.size() > 1) {
-            const auto [first, second] = halves(strip_of(area, edge), edge == Edge::Left || edge == Edge::Right);
-            rim(first, edge);
-            rim(second, edge);
-            return;
-        }
-        const Line& line = wanted.front();
-        restyle(strip_of(area, edge), [&](Border& border) { border.line(edge) = line; });
-        follow(area, edge, line);
+        const Change become = becoming(cells_.sheet().edge_lines(area, edge), [&] { settle_rim(area, edge); });
+        restyle(strip_of(area, edge), [&](Border& border) { become(border.line(edge)); });
+        follow(area, edge, become);
     }
 
     void inside(const Area& area, bool between_columns) const {
-        const std::vector<Line> wanted = changed(cells_.sheet().inside_lines(area, between_columns));
-        if (wanted.empty()) return;
-        if (wanted.size() > 1) {
-            const bool above = parts_above(area, between_columns);
-            const auto [first, second] = halves(area, above);
-            inside(first, between_columns);
-            if (above != between_columns) rim(first, between_columns ? Edge::Right : Edge::Bottom);
-            inside(second, between_columns);
-            return;
-        }
-        const Line& line = wanted.front();
+        const std::vector<Line> shown = cells_.sheet().inside_lines(area, between_columns);
+        if (shown.empty()) return;
+        const Change become = becoming(shown, [&] { cells_.sheet().settle_inside_lines(area, between_columns); });
         Area before = area;
         Area after = area;
         (between_columns ? before.last_column : before.last_row) -= 1;
         (between_columns ? after.first_column : after.first_row) += 1;
         const Edge trailing = between_columns ? Edge::Right : Edge::Bottom;
-        restyle(before, [&](Border& border) { border.line(trailing) = line; });
-        restyle(after, [&](Border& border) { border.line(facing(trailing)) = line; });
+        restyle(before, [&](Border& border) { become(border.line(trailing)); });
+        restyle(after, [&](Border& border) { become(border.line(facing(trailing))); });
     }
 
     void everything(const Area& area) const {
@@ -142,65 +112,55 @@ class Writer {
         for (const Edge edge : all_edges) add(shown, cells_.sheet().edge_lines(area, edge));
         add(shown, cells_.sheet().inside_lines(area, true));
         add(shown, cells_.sheet().inside_lines(area, false));
-        const std::vector<Line> wanted = changed(shown);
-        if (wanted.size() > 1) {
-            inside(area, true);
-            inside(area, false);
-            for (const Edge edge : all_edges) rim(area, edge);
-            return;
-        }
-        const Line& line = wanted.front();
-        restyle(area, [&](Border& border) {
-            for (const Edge edge : all_edges) border.line(edge) = line;
+        const Change become = becoming(shown, [&] {
+            cells_.sheet().settle_inside_lines(area, true);
+            cells_.sheet().settle_inside_lines(area, false);
+            for (const Edge edge : all_edges) settle_rim(area, edge);
         });
-        for (const Edge edge : all_edges) follow(area, edge, line);
+        restyle(area, [&](Border& border) {
+            for (const Edge edge : all_edges) become(border.line(edge));
+        });
+        for (const Edge edge : all_edges) follow(area, edge, become);
     }
 
   private:
-    // The distinct lines that these become.
-    [[nodiscard]] std::vector<Line> changed(std::vector<Line> lines) const {
+    // What each of the shown lines becomes. Where they become one, that is what every cell draws; else each side of a
+    // line must draw it first, so that both become the same.
+    [[nodiscard]] Change becoming(const std::vector<Line>& shown, const std::function<void()>& settle) const {
         std::vector<Line> distinct;
-        for (Line& line : lines) {
+        for (Line line : shown) {
             change_(line);
             add(distinct, {line});
         }
-        return distinct;
+        if (distinct.size() == 1) return [line = distinct.front()](Line& drawn) { drawn = line; };
+        settle();
+        return [this](Line& drawn) {
+            if (drawn.style == LineStyle::None) drawn = {};
+            change_(drawn);
+        };
     }
 
-    // Whether an area with different lines inside is parted into an upper and a lower half: sheets differ by rows or by
-    // columns, and the first of each tell by which.
-    [[nodiscard]] bool parts_above(const Area& area, bool between_columns) const {
-        if (area.rows() == 1) return false;
-        if (area.columns() == 1) return true;
-        // Two columns have one line between them.
-        if (between_columns && area.columns() == 2) return true;
-        if (!between_columns && area.rows() == 2) return false;
-        Area top = area;
-        Area left = area;
-        top.last_row = between_columns ? area.first_row : area.first_row + 1;
-        left.last_column = between_columns ? area.first_column + 1 : area.first_column;
-        const bool row_differs = cells_.sheet().inside_lines(top, between_columns).size() > 1;
-        const bool column_differs = cells_.sheet().inside_lines(left, between_columns).size() > 1;
-        return row_differs == column_differs ? area.rows() >= area.columns() : column_differs;
-    }
+    void settle_rim(const Area& area, Edge edge) const { cells_.sheet().settle_edge_lines(area, edge); }
 
     void restyle(const Area& area, const std::function<void(Border&)>& change) const {
         cells_.sheet().restyle(area, [&](StyleId id) { return cells_.styles().with_border(id, change); });
     }
 
     // The neighbours' side of the line, where they draw one of their own.
-    void follow(const Area& area, Edge edge, const Line& line) const {
+    void follow(const Area& area, Edge edge, const Change& become) const {
         const auto neighbours = neighbours_of(area, edge);
         if (!neighbours) return;
         const Edge side = facing(edge);
-        const auto draws = [&](StyleId id) {
-            const Line& own = cells_.styles().border_of(id).line(side);
-            return own.style != LineStyle::None && !(own == line);
+        const auto after = [&](StyleId id) {
+            Line line = cells_.styles().border_of(id).line(side);
+            if (line.style != LineStyle::None) become(line);
+            return line;
         };
-        if (std::ranges::none_of(cells_.sheet().styles_in(*neighbours), draws)) return;
+        const auto differs = [&](StyleId id) { return !(after(id) == cells_.styles().border_of(id).line(side)); };
+        if (std::ranges::none_of(cells_.sheet().styles_in(*neighbours), differs)) return;
         cells_.sheet().restyle(*neighbours, [&](StyleId id) {
-            if (!draws(id)) return id;
-            return cells_.styles().with_border(id, [&](Border& border) { border.line(side) = line; });
+            if (!differs(id)) return id;
+            return cells_.styles().with_border(id, [&](Border& border) { border.line(side) = after(id); });
         });
     }
 
