@@ -7,6 +7,7 @@
 #include <array>
 
 #include "windows/com/Unicode.h"
+#include "windows/forms/FormWindow.h"
 
 namespace kestrune::windows {
 namespace {
@@ -53,6 +54,8 @@ forms::MsgBoxResult Win32Presenter::answer_to(const forms::Message& message) {
     return answer >= IDOK && answer <= IDNO ? static_cast<forms::MsgBoxResult>(answer)
                                             : forms::safe_choice(message.buttons);
 }
+
+void Win32Presenter::work(forms::Form& form) { FormWindow(form, owner()).run(); }
 
 std::optional<std::string> Win32Presenter::choose_file(const FileDialog& dialog) {
     constexpr std::size_t longest_path = 32768;

@@ -12,6 +12,7 @@ class Win32Presenter final : public forms::Presenter {
 
   private:
     forms::MsgBoxResult answer_to(const forms::Message& message) override;
+    void work(forms::Form& form) override;
 };
 
 }  // namespace kestrune::windows

@@ -1,0 +1,238 @@
+// What Windows tells a form's window.
+#include <windows.h>
+
+#include <commctrl.h>
+
+#include "windows/com/Unicode.h"
+#include "windows/forms/FormWindow.h"
+#include "windows/forms/NativeControl.h"
+
+namespace kestrune::windows {
+namespace {
+
+using forms::Control;
+using forms::Key;
+using forms::Kind;
+
+constexpr UINT dpi_changed = 0x02E0;  // WM_DPICHANGED, since Windows 8.1
+
+// What a control tells when a person goes to it, and when one works with it.
+bool goes_there(Kind kind, int code) {
+    switch (kind) {
+        case Kind::Option:
+        case Kind::Check:
+        case Kind::Push:
+            return code == BN_SETFOCUS;
+        case Kind::Text:
+            return code == EN_SETFOCUS;
+        case Kind::Combo:
+            return code == CBN_SETFOCUS;
+        case Kind::List:
+            return code == LBN_SETFOCUS;
+        default:
+            return false;
+    }
+}
+
+bool acts(Kind kind, int code) {
+    switch (kind) {
+        case Kind::Check:
+        case Kind::Push:
+            return code == BN_CLICKED || code == BN_DOUBLECLICKED;
+        case Kind::Option:
+            return code == BN_CLICKED;
+        case Kind::Label:
+        case Kind::Image:
+            return code == STN_CLICKED;
+        case Kind::Text:
+            return code == EN_CHANGE;
+        case Kind::Combo:
+            return code == CBN_SELCHANGE || code == CBN_EDITCHANGE;
+        case Kind::List:
+            return code == LBN_SELCHANGE || code == LBN_DBLCLK;
+        default:
+            return false;
+    }
+}
+
+bool down(int key) { return GetKeyState(key) < 0; }
+
+}  // namespace
+
+LRESULT CALLBACK FormWindow::receive(HWND window, UINT message, WPARAM w, LPARAM l) noexcept {
+    if (message == WM_NCCREATE) {
+        auto* created = static_cast<FormWindow*>(reinterpret_cast<CREATESTRUCTW*>(l)->lpCreateParams);
+        created->window_ = window;
+        SetWindowLongPtrW(window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(created));
+    }
+    auto* self = reinterpret_cast<FormWindow*>(GetWindowLongPtrW(window, GWLP_USERDATA));
+    if (!self) return DefWindowProcW(window, message, w, l);
+    // Windows lets no exception through; the modal loop throws it on.
+    try {
+        return self->answer(message, w, l);
+    } catch (...) {
+        self->failure_ = std::current_exception();
+        self->done_ = true;
+        return 0;
+    }
+}
+
+LRESULT FormWindow::answer(UINT message, WPARAM w, LPARAM l) {
+    switch (message) {
+        case WM_CLOSE:
+            form_.close();
+            return 0;
+        case WM_SETFOCUS:
+        case FormWindow::give_focus:
+            focus_now();
+            return 0;
+        case WM_COMMAND:
+            if (l) command(LOWORD(w), HIWORD(w));
+            return 0;
+        case WM_NOTIFY:
+            return notify(*reinterpret_cast<const NMHDR*>(l));
+        case WM_CTLCOLORSTATIC:
+        case WM_CTLCOLORBTN:
+            SetBkMode(reinterpret_cast<HDC>(w), TRANSPARENT);
+            return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_3DFACE));
+        case WM_DRAWITEM: {
+            const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
+            if (const Control* image = control_of(static_cast<int>(item.CtlID))) {
+                draw_picture(*image, item.hDC, item.rcItem);
+            }
+            return TRUE;
+        }
+        case WM_SIZE:
+            if (w != SIZE_MINIMIZED && scale_) arrange();
+            return 0;
+        case WM_GETMINMAXINFO:
+            if (scale_ && !natives_.empty()) {
+                const SIZE least = least_size();
+                reinterpret_cast<MINMAXINFO*>(l)->ptMinTrackSize = {least.cx, least.cy};
+            }
+            return 0;
+        case dpi_changed:
+            if (scale_) rescale(HIWORD(w), *reinterpret_cast<const RECT*>(l));
+            return 0;
+        case WM_NCDESTROY:
+            SetWindowLongPtrW(window_, GWLP_USERDATA, 0);
+            break;
+        default:
+            break;
+    }
+    return DefWindowProcW(window_, message, w, l);
+}
+
+void FormWindow::command(int number, int code) {
+    Control* control = control_of(number);
+    if (!control || writing_ > 0) return;
+    struct Inside {
+        explicit Inside(int& counter) : count(counter) { ++count; }
+        ~Inside() { --count; }
+        int& count;
+    } const inside(inside_);
+    if (goes_there(control->kind(), code)) {
+        form_.go_to(*control);
+    } else if (acts(control->kind(), code)) {
+        take(*control, code);
+        // What the form did not take, the control does not show.
+        changed(*control);
+    }
+}
+
+// What a person did to a control, into the form.
+void FormWindow::take(Control& control, int code) {
+    HWND native_window = native(control);
+    const auto place = [&](UINT get) { return static_cast<std::int32_t>(SendMessageW(native_window, get, 0, 0)); };
+    switch (control.kind()) {
+        case Kind::Text:
+            form_.type(control, text_in(native_window));
+            break;
+        case Kind::Combo:
+            if (code == CBN_EDITCHANGE) {
+                form_.type(control, text_in(native_window));
+            } else {
+                form_.choose(control, place(CB_GETCURSEL));
+            }
+            break;
+        case Kind::List:
+            if (code == LBN_DBLCLK) {
+                form_.double_click(control);
+            } else {
+                form_.choose(control, place(LB_GETCURSEL));
+            }
+            break;
+        default:
+            form_.click(control);
+            break;
+    }
+}
+
+LRESULT FormWindow::notify(const NMHDR& header) {
+    if (header.code == TTN_GETDISPINFOW) {
+        auto& asked = *reinterpret_cast<NMTTDISPINFOW*>(const_cast<NMHDR*>(&header));
+        for (std::size_t i = 0; i < natives_.size(); ++i) {
+            if (natives_[i] == reinterpret_cast<HWND>(header.idFrom))
+                tip_ = to_utf16(form_.controls()[i].ControlTipText());
+        }
+        asked.lpszText = tip_.data();
+        return 0;
+    }
+    Control* control = control_of(static_cast<int>(header.idFrom));
+    if (!control || writing_ > 0) return 0;
+    if (header.code == UDN_DELTAPOS) {
+        const auto& pressed = *reinterpret_cast<const NMUPDOWN*>(&header);
+        form_.spin(*control, pressed.iDelta > 0);
+        return TRUE;  // the form counts
+    }
+    if (header.code == TCN_SELCHANGE) {
+        form_.choose(*control, static_cast<std::int32_t>(SendMessageW(header.hwndFrom, TCM_GETCURSEL, 0, 0)));
+        changed(*control);
+    }
+    if (header.code == static_cast<UINT>(NM_SETFOCUS)) form_.go_to(*control);
+    return 0;
+}
+
+bool FormWindow::key(const MSG& message) {
+    if (message.hwnd != window_ && !IsChild(window_, message.hwnd)) return false;
+    try {
+        if (message.message == WM_KEYDOWN) return key_down(message.wParam);
+        if (message.message == WM_SYSCHAR && message.wParam < 0x80) {
+            return form_.press_access_key(static_cast<char>(message.wParam));
+        }
+    } catch (...) {
+        failure_ = std::current_exception();
+        done_ = true;
+        return true;
+    }
+    return false;
+}
+
+bool FormWindow::key_down(WPARAM key) {
+    const Control* active = form_.ActiveControl();
+    const bool unfolded = active && active->is(Kind::Combo) && SendMessageW(native(*active), CB_GETDROPPEDSTATE, 0, 0);
+    switch (key) {
+        case VK_TAB:
+            return !down(VK_CONTROL) && form_.press(down(VK_SHIFT) ? Key::BackTab : Key::Tab);
+        case VK_RETURN:
+            return !unfolded && form_.press(Key::Enter);
+        case VK_ESCAPE:
+            return !unfolded && form_.press(Key::Escape);
+        case VK_UP:
+        case VK_DOWN:
+        case VK_LEFT:
+        case VK_RIGHT: {
+            // In lists, combo boxes and page tabs the arrows are the control's own.
+            const bool ours = active && (active->is(Kind::Option) || active->is(Kind::Text) || active->is(Kind::Spin));
+            const Key arrow = key == VK_UP     ? Key::Up
+                              : key == VK_DOWN ? Key::Down
+                              : key == VK_LEFT ? Key::Left
+                                               : Key::Right;
+            return ours && form_.press(arrow);
+        }
+        default:
+            return false;
+    }
+}
+
+}  // namespace kestrune::windows

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+
+#include "forms/Control.h"
+
+namespace kestrune::windows {
+
+// The window of a control on a form's window, which identifies itself by a number. Null when Windows makes none.
+HWND create_native(const forms::Control& control, HWND form, int number);
+
+// Has the window show what the control holds: caption or text, what is chosen, whether it is enabled and seen. What it
+// shows already is left alone, so that a person who types keeps the caret.
+void show_in(HWND native, const forms::Control& control, bool items_too);
+
+// A caption as Windows writes it, with "&" before the access key.
+std::wstring native_caption(const forms::Control& control);
+
+// The text of a window.
+std::string text_in(HWND native);
+
+// Draws the picture of an image control.
+void draw_picture(const forms::Control& control, HDC context, const RECT& box);
+
+}  // namespace kestrune::windows
