@@ -16,7 +16,7 @@ _kestrune() {
     if [[ $word == -* ]]; then
         case $command in
             run) COMPREPLY=($(compgen -W "-o --output --in-place --prefs --set --answer --json --trace --help" -- "$word")) ;;
-            show) COMPREPLY=($(compgen -W "--html --color --classes --json --help" -- "$word")) ;;
+            show) COMPREPLY=($(compgen -W "--html --color --classes --json --prefs --set --help" -- "$word")) ;;
             prefs)
                 case ${COMP_WORDS[2]} in
                     show) COMPREPLY=($(compgen -W "--json --prefs --help" -- "$word")) ;;

@@ -24,14 +24,6 @@ using formula::Reference;
 using formula::Token;
 using formula::TokenKind;
 
-void expect(bool holds, std::string_view promise, std::string_view text, std::string_view got = {}) {
-    if (holds) return;
-    std::string message(promise);
-    message.append(": ").append(text);
-    if (!got.empty()) message.append("\n  gives ").append(got);
-    throw Broken(message);
-}
-
 // The tokens follow each other from the first byte to the last one.
 std::vector<Token> tiles(std::string_view text, Notation notation) {
     std::vector<Token> tokens;

@@ -13,13 +13,23 @@ class Broken : public std::logic_error {
     using std::logic_error::logic_error;
 };
 
+// Throws when a promise does not hold, with the text that broke it and, when there is one, what came of it.
+inline void expect(bool holds, std::string_view promise, std::string_view text, std::string_view got = {}) {
+    if (holds) return;
+    std::string message(promise);
+    message.append(": ").append(text);
+    if (!got.empty()) message.append("\n  gives ").append(got);
+    throw Broken(message);
+}
+
 void formula(std::string_view text);
+void preferences(std::string_view edits);
 void xml(std::string_view text);
 
 struct Target {
     std::string_view name;  // also of its folder below fuzz/corpus
     void (*run)(std::string_view input);
 };
-inline constexpr Target targets[] = {{"formula", formula}, {"xml", xml}};
+inline constexpr Target targets[] = {{"formula", formula}, {"preferences", preferences}, {"xml", xml}};
 
 }  // namespace kestrune::fuzz

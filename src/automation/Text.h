@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace kestrune::automation {
@@ -34,6 +35,29 @@ constexpr std::string_view trimmed(std::string_view text) {
     while (!text.empty() && (text.front() == ' ' || text.front() == '\t')) text.remove_prefix(1);
     while (!text.empty() && (text.back() == ' ' || text.back() == '\t')) text.remove_suffix(1);
     return text;
+}
+
+// The same without line ends as well: what stands between two tags, laid out by a person.
+constexpr std::string_view without_white_space(std::string_view text) {
+    constexpr std::string_view white = " \t\r\n";
+    const std::size_t begin = text.find_first_not_of(white);
+    if (begin == std::string_view::npos) return {};
+    return text.substr(begin, text.find_last_not_of(white) + 1 - begin);
+}
+
+// A text for a message of one line: control characters become blanks, and what is too long is cut off. UTF-8.
+inline std::string one_line(std::string_view text, std::size_t longest = 500) {
+    text = without_white_space(text);
+    const bool cut = text.size() > longest;
+    if (cut) {
+        while (longest > 0 && (static_cast<unsigned char>(text[longest]) & 0xC0) == 0x80) --longest;
+        text = text.substr(0, longest);
+    }
+    std::string line(text);
+    for (char& c : line) {
+        if (static_cast<unsigned char>(c) < ' ') c = ' ';
+    }
+    return cut ? line + "..." : line;
 }
 
 }  // namespace kestrune::automation

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "automation/AutomationError.h"
+#include "automation/Text.h"
 #include "brvblib/xml/XmlFile.h"
 #include "brvblib/xml/XmlNodes.h"
 #include "brvblib/xml/XmlText.h"
@@ -35,6 +36,13 @@ const XmlElement& element_of(const Value& node) {
     return own->element();
 }
 
+// What is wrong with a file, in one line; what files say names theirs already.
+std::string naming(const std::string& path, std::string_view what) {
+    const std::string prefix = path + ": ";
+    if (what.starts_with(prefix)) what.remove_prefix(prefix.size());
+    return prefix + automation::one_line(what);
+}
+
 XmlElementRef first(std::string_view name, const XmlElement& under) {
     XmlElementRef child = under.child(name);
     return child ? child : under.descendant(name);
@@ -59,9 +67,7 @@ ObjectRef iXML::load(const std::string& path, const std::string& identifier, con
         root_ = std::move(document.root);
         version_ = std::move(document.version);
     } catch (const AutomationError& error) {
-        // What files say names the file already.
-        const std::string& what = error.description();
-        last_error_ = what.starts_with(path + ": ") ? what : fmt::format("{}: {}", path, what);
+        last_error_ = naming(path, error.description());
     }
     return XmlNode::of(root_);
 }
@@ -117,8 +123,7 @@ bool iXML::save(const std::string& path) {
         library_->files().write(path, xml_file(text()));
         return true;
     } catch (const AutomationError& error) {
-        const std::string& what = error.description();
-        last_error_ = what.starts_with(path + ": ") ? what : fmt::format("{}: {}", path, what);
+        last_error_ = naming(path, error.description());
         return false;
     }
 }

@@ -38,6 +38,14 @@ Examples:
 
 Exit status: 0 done, 1 a command or a file failed (nothing is written), 2 wrong usage.)";
 
+// The settings that a command works by.
+void add_settings(CLI::App& command, std::string& preferences, std::vector<std::string>& settings) {
+    command.add_option("--prefs", preferences, "The preferences file to work by; your own unless given");
+    command.add_option("--set", settings, "Another value for one setting, for this run: SmartCopyRight.Rule=ALWAYS")
+        ->type_name("NAME=VALUE")
+        ->allow_extra_args(false);
+}
+
 void add_run(CLI::App& app, RunOptions& options) {
     CLI::App* command = app.add_subcommand("run", "Run a session of steps on a workbook");
     command->add_option("WORKBOOK", options.workbook, "The .xlsx or .xlsm file to open")->required();
@@ -47,12 +55,7 @@ void add_run(CLI::App& app, RunOptions& options) {
         ->capture_default_str();
     command->add_flag("--json", options.json, "Report each step as JSON");
     command->add_flag("--trace", options.trace, "Tell on standard error what commands skipped");
-    command->add_option("--prefs", options.prefs, "The preferences file to work by; your own unless given");
-    command
-        ->add_option("--set", options.settings,
-                     "Another value for one setting, for this run: SmartCopyRight.Rule=ALWAYS")
-        ->type_name("NAME=VALUE")
-        ->allow_extra_args(false);
+    add_settings(*command, options.prefs, options.settings);
     command->add_option("STEP", options.steps,
                         "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, key:Ctrl+Shift+4 presses a key, undo:2 "
                         "undoes, redo, history, "
@@ -118,6 +121,7 @@ void add_show(CLI::App& app, ShowOptions& options) {
         ->capture_default_str();
     command->add_flag("--classes", options.classes, "Show what AutoColor sees in cells instead of their colours");
     command->add_flag("--json", options.json, "The classes as JSON, one object a cell");
+    add_settings(*command, options.prefs, options.settings);
     command->callback([&options] { show(options); });
 }
 

@@ -21,10 +21,7 @@ namespace {
 Value without_blanks(const Value& value) {
     const auto* text = value.if_is<std::string>();
     if (!text) return value;
-    constexpr std::string_view blanks = " \t\r\n";
-    const std::size_t begin = text->find_first_not_of(blanks);
-    if (begin == std::string::npos) return "";
-    return text->substr(begin, text->find_last_not_of(blanks) + 1 - begin);
+    return automation::without_white_space(*text);
 }
 
 [[noreturn]] void mismatch(const Value& value, std::string_view wanted) {

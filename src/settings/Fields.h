@@ -32,6 +32,8 @@ struct Group {
     std::string_view name;
     Options SettingValues::*member;
 };
+template <class Options>
+Group(std::string_view, Options SettingValues::*) -> Group<Options>;
 
 // The option groups of the Smart tools, in the order of preferences files.
 inline constexpr std::tuple groups{

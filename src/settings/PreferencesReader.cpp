@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "automation/Conversion.h"
+#include "automation/Text.h"
 #include "settings/DefaultCycles.h"
 #include "settings/Fields.h"
 #include "settings/PreferencesFormat.h"
@@ -47,7 +48,7 @@ const EarlierFiles& earlier(std::string_view field) {
 }
 
 bool is_blank(const ObjectRef& node) {
-    return automation::to_text(automation::get(*node, "text")).find_first_not_of(" \t\r\n") == std::string::npos;
+    return automation::without_white_space(automation::to_text(automation::get(*node, "text"))).empty();
 }
 
 styles::LongToggleRef default_cycle(NumericCycle field) {

@@ -4,6 +4,7 @@
 
 #include "automation/Conversion.h"
 #include "automation/ResumeNext.h"
+#include "automation/Text.h"
 #include "forms/MsgBox.h"
 #include "settings/PreferencesFormat.h"
 #include "settings/PreferencesReader.h"
@@ -19,7 +20,8 @@ using core::SharedState;
 namespace {
 
 [[noreturn]] void fail(std::string_view path, std::string_view what) {
-    throw AutomationError(automation::hresult::exception, "user preferences", fmt::format("{}: {}", path, what));
+    throw AutomationError(automation::hresult::exception, "user preferences",
+                          fmt::format("{}: {}", path, automation::one_line(what)));
 }
 
 std::shared_ptr<cUserSettings> read(const SharedState& shared) {

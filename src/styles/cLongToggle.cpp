@@ -3,8 +3,15 @@
 #include <algorithm>
 
 #include "automation/ResumeNext.h"
+#include "excel/Constants.h"
 
 namespace kestrune::styles {
+namespace {
+
+// With its workbook and sheet.
+std::string full_address(const excel::Range& cell) { return cell.Address(true, true, excel::xlA1, true); }
+
+}  // namespace
 
 std::shared_ptr<cLongToggle> cLongToggle::Copy() const { return std::make_shared<cLongToggle>(*this); }
 
@@ -13,7 +20,15 @@ bool cLongToggle::IncludesSetting(double value, bool as_read) const {
     return std::ranges::find(values, value) != values.end();
 }
 
-std::size_t cLongToggle::next_position(std::optional<double> shown) const {
+bool cLongToggle::is_ambiguous(std::size_t position) const {
+    return std::ranges::count(LookFors, LookFors[position - 1]) > 1;
+}
+
+std::size_t cLongToggle::next_position(std::optional<double> shown, const excel::Range& cell) const {
+    if (last_place_ && last_place_->position <= Settings.size() && LookFors[last_place_->position - 1] == shown &&
+        full_address(cell) == last_place_->cell) {
+        return last_place_->position % Settings.size() + 1;
+    }
     // The last entry is not compared: a cell that shows it starts over just as one that shows none.
     for (std::size_t i = 1; i < Settings.size(); ++i) {
         if (LookFors[i - 1] == shown) return i + 1;
@@ -33,10 +48,15 @@ void cLongToggle::step(const automation::Trace& trace, const excel::Range& range
     if (position == 0) {
         std::optional<double> shown;
         attempt.assign(shown, [&] { return property.read(cell); });
-        target = next_position(shown);
+        target = 1;
+        attempt.assign(target, [&] { return next_position(shown, cell); });
     }
     attempt([&] { property.write(range, Settings[target - 1]); });
     attempt.assign(LookFors[target - 1], [&] { return property.read(cell); });
+    last_place_.reset();
+    attempt([&] {
+        if (is_ambiguous(target)) last_place_ = Place{full_address(cell), target};
+    });
 }
 
 }  // namespace kestrune::styles

@@ -38,8 +38,9 @@ class cLongToggle {
 
     // Steps a range through the values of a property. Position 0 gives the whole range the value behind the one that
     // its top-left cell shows, the first when that shows none but the last; a position of the list gives that value;
-    // any other, and no range, does nothing. What the cell then shows is what the value is recognised by from now on,
-    // also where the sheet refused it.
+    // any other, and no range, does nothing. Of values that look the same the first counts, unless this cell was just
+    // given a later one: the next press goes on from there. What the cell then shows is what the value is recognised by
+    // from now on, also where the sheet refused it.
     void ApplyAsIndents(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
     // Cells are right-aligned; see RightIndent.h for how those of old versions are indented.
     void ApplyAsRightIndents(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
@@ -48,9 +49,19 @@ class cLongToggle {
     // Selects the range afterwards, so that Excel draws it anew.
     void ApplyAsColors(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
 
-    bool operator==(const cLongToggle&) const = default;
+    bool operator==(const cLongToggle& other) const {
+        return Name == other.Name && AccessLevel == other.AccessLevel && Settings == other.Settings &&
+               LookFors == other.LookFors;
+    }
 
   private:
+    // Where the cycle stands on a cell, for values by which that cannot be told: one that is in the list twice, two
+    // that Excel makes the same, one that the sheet refused.
+    struct Place {
+        std::string cell;  // its full address
+        std::size_t position = 0;
+    };
+
     // How a property is read from a cell and written to a range. Both may fail as Excel does.
     struct Property {
         std::function<double(const excel::Range& cell)> read;
@@ -59,8 +70,12 @@ class cLongToggle {
 
     void step(const automation::Trace& trace, const excel::Range& range, std::int32_t position,
               const Property& property);
-    // The position of the value behind the one shown; nothing shown is no value of the cycle.
-    [[nodiscard]] std::size_t next_position(std::optional<double> shown) const;
+    // The position of the value behind the one that a cell shows; nothing shown is no value of the cycle.
+    [[nodiscard]] std::size_t next_position(std::optional<double> shown, const excel::Range& cell) const;
+    // Whether another position is recognised by the same value.
+    [[nodiscard]] bool is_ambiguous(std::size_t position) const;
+
+    std::optional<Place> last_place_;  // of the last step that left an ambiguous value
 };
 
 using LongToggleRef = std::shared_ptr<cLongToggle>;

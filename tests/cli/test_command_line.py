@@ -390,14 +390,15 @@ class Telling(CommandLineTest):
     def test_shows_what_autocolor_sees(self):
         plain = self.run_ok("show", self.book, "--classes").stdout.splitlines()
         self.assertRegex(plain[1], r"^ +1 i +11 i +12 i +13 i +14 +f")
-        self.assertEqual(plain[-1], "i input 20  f formula 1")
+        self.assertEqual(plain[-1], "i input 20 #0000FF  f formula 1 #000000")
         self.assertIn("\x1b[0;48;2;", self.run_ok("show", self.book, "--classes", "--color", "always").stdout)
         cells = json.loads(self.run_ok("show", self.book, "Model!E1:F2", "--classes", "--json").stdout)
-        self.assertEqual(cells, [{"Address": "Model!$F$1", "Class": "formula"}])
+        self.assertEqual(cells, [{"Address": "Model!$F$1", "Class": "formula", "Color": 0}])
         self.assertEqual(json.loads(self.run_ok("show", self.book, "Model!J1", "--classes", "--json").stdout), [])
         page = self.folder / "page.html"
         self.run_ok("show", self.book, "--classes", "--html", page)
         self.assertIn('title="formula: =SUM(A1:A5)"', page.read_text())
+        self.assertIn("input</span> 20 #0000FF", page.read_text())
 
     def test_black_fonts_come_and_go_with_the_file(self):
         black, back = self.folder / "black.xlsx", self.folder / "back.xlsx"

@@ -1,5 +1,6 @@
 """The user settings on the command line: their file, what changes it, and what is made of a bad one."""
 
+import datetime
 import json
 import os
 import pathlib
@@ -100,6 +101,30 @@ class Running(PrefsTest):
         self.assertEqual(self.settings("--prefs", prefs)["InputColor"], 0xFF0000, "for that run alone")
         self.assertEqual(self.cell_after("@B2", "20").number_format, "[$$-409]#,##0_);([$$-409]#,##0)")
         self.assertTrue(self.own.exists())
+
+    def test_classes_are_told_by_the_settings_that_autocolor_works_by(self):
+        book = openpyxl.Workbook()
+        cells = [("a text", None), (datetime.date(2026, 1, 31), None), ("=A1", "https://example.com/")]
+        for row, (value, link) in enumerate(cells, 1):
+            book.active.cell(row, 1, value).hyperlink = link
+        path = self.folder / "links.xlsx"
+        book.save(path)
+
+        def classes(*arguments):
+            cells = json.loads(self.run_ok("show", path, "--classes", "--json", *arguments).stdout)
+            return [(cell["Class"], cell["Color"]) for cell in cells]
+
+        blue, link = 0xFF0000, 0xC16305
+        self.assertEqual(classes(), [("text", None), ("date", blue), ("hyperlink", link)])
+        prefs = self.edited("prefs.xml", '<bAutoColorHyperlinks dt:dt="boolean">1<', '<bAutoColorHyperlinks>False<')
+        mine = ("--set", "bAutoColorText=True", "--set", "bAutoColorDate=False", "--set", "inputcolor=#000012")
+        self.assertEqual(classes("--prefs", prefs, *mine), [("text", 0x120000), ("date", None), ("formula", 0)])
+        self.run_ok("prefs", "import", prefs)
+        self.assertEqual(classes()[2], ("formula", 0), "the user's own file counts")
+        prefs.write_text("<Kestrune")
+        self.assertIn(str(prefs), self.refused("show", path, "--classes", "--prefs", prefs))
+        self.refused("show", path, "--classes", "--set", "InputColor=blue", status=2)
+        self.refused("show", path, "--prefs", prefs, status=2)
 
     def test_an_unreadable_file_of_the_user_is_kept_and_replaced(self):
         self.own.parent.mkdir(parents=True)

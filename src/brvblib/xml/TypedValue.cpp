@@ -17,7 +17,6 @@ namespace kestrune::brvblib {
 namespace {
 
 using automation::Date;
-using automation::trimmed;
 using automation::Value;
 using std::chrono::sys_days;
 using std::chrono::year;
@@ -142,7 +141,7 @@ TypedText typed_text(const Value& value) {
 }
 
 Value typed_value(std::string_view type, const std::string& text) {
-    const std::string_view spelt = trimmed(text);
+    const std::string_view spelt = automation::without_white_space(text);
     for (const TypeRow& row : types) {
         if (row.name != type) continue;
         Value value;

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 
 #include "automation/Trace.h"
@@ -34,25 +36,30 @@ inline const ClassLook& look_of(brxllib::CellClass cell) { return class_looks[st
 // What the cells of an area hold, as AutoColor sees them.
 class Classes {
   public:
-    // Fails with AutomationError when the sheet cannot be read.
-    Classes(const excel::Worksheet& sheet, const formula::Area& area);
+    // rules: what counts as a link, and the colours. Fails with AutomationError when the sheet cannot be read.
+    Classes(const excel::Worksheet& sheet, const formula::Area& area, const brxllib::AutoColorSettings& rules);
 
     [[nodiscard]] const formula::Area& area() const { return block_.area; }
     // Of a cell of the area; Empty outside of it.
     [[nodiscard]] brxllib::CellClass at(formula::Position position) const;
+    // What AutoColor makes of a class's fonts, BGR; nothing for those that keep their colours.
+    [[nodiscard]] std::optional<std::int32_t> color(brxllib::CellClass cell) const { return color_of(cell, rules_); }
     [[nodiscard]] std::int64_t count(brxllib::CellClass cell) const { return counts_[static_cast<std::size_t>(cell)]; }
 
   private:
     brxllib::ClassBlock block_;
+    brxllib::AutoColorSettings rules_;
     std::array<std::int64_t, brxllib::cell_class_count> counts_{};
 };
 
-// Calls act with every class that the area holds cells of, and how many.
+std::string count_and_color(const Classes& classes, brxllib::CellClass cell);
+
+// Calls act with every class that the area holds cells of, and how many and which colour they get: "20 #0000FF".
 template <class Act>
 void for_each_class(const Classes& classes, Act&& act) {
     for (std::size_t i = 1; i < class_looks.size(); ++i) {
         const auto cell = static_cast<brxllib::CellClass>(i);
-        if (classes.count(cell) > 0) act(class_looks[i], classes.count(cell));
+        if (classes.count(cell) > 0) act(class_looks[i], count_and_color(classes, cell));
     }
 }
 

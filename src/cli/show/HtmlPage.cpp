@@ -246,7 +246,7 @@ class SheetPage {
   private:
     [[nodiscard]] std::string legend() const {
         std::string out = "<p class=legend>";
-        for_each_class(*classes_, [&](const ClassLook& look, std::int64_t count) {
+        for_each_class(*classes_, [&](const ClassLook& look, const std::string& count) {
             fmt::format_to(std::back_inserter(out), "<span style='background:{}'>{}</span> {} ", hex(look.fill),
                            look.name, count);
         });

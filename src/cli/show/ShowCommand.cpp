@@ -10,6 +10,7 @@
 
 #include "cli/Failure.h"
 #include "cli/OpenWorkbook.h"
+#include "cli/prefs/AutoColorRules.h"
 #include "cli/run/Select.h"
 #include "cli/show/Classes.h"
 #include "cli/show/HtmlPage.h"
@@ -23,6 +24,7 @@
 namespace kestrune::cli {
 namespace {
 
+using brxllib::AutoColorSettings;
 using formula::Area;
 
 // A terminal is no place for more; a range asks for what it wants.
@@ -85,17 +87,20 @@ excel::Worksheet worksheet_of(const OpenWorkbook& book, const host::Sheet& sheet
 }
 
 // One object a cell that holds anything, row by row.
-void print_classes(const OpenWorkbook& book, const host::Sheet& sheet, const Area& area) {
-    const Classes classes(worksheet_of(book, sheet), area);
+void print_classes(const OpenWorkbook& book, const host::Sheet& sheet, const Area& area,
+                   const AutoColorSettings& rules) {
+    const Classes classes(worksheet_of(book, sheet), area, rules);
     const std::string prefix = formula::quoted_sheet(sheet.name()) + "!";
     const char* separator = "[\n";
     for (std::int32_t row = area.first_row; row <= area.last_row; ++row) {
         for (std::int32_t column = area.first_column; column <= area.last_column; ++column) {
             const brxllib::CellClass cell = classes.at({row, column});
             if (cell == brxllib::CellClass::Empty) continue;
-            const nlohmann::ordered_json entry{
+            nlohmann::ordered_json entry{
                 {"Address", fmt::format("{}${}${}", prefix, formula::column_letters(column), row)},
-                {"Class", look_of(cell).name}};
+                {"Class", look_of(cell).name},
+                {"Color", nullptr}};
+            if (const auto color = classes.color(cell)) entry["Color"] = *color;
             fmt::print("{}{}", separator, entry.dump());
             separator = ",\n";
         }
@@ -103,10 +108,12 @@ void print_classes(const OpenWorkbook& book, const host::Sheet& sheet, const Are
     fmt::print("{}]\n", separator[0] == '[' ? "[" : "\n");
 }
 
-void write_page(OpenWorkbook& book, const ShowOptions& options) {
+void write_page(OpenWorkbook& book, const ShowOptions& options, const AutoColorSettings& rules) {
     Classify classify;
     if (options.classes) {
-        classify = [&](host::Sheet& sheet, const Area& area) { return Classes(worksheet_of(book, sheet), area); };
+        classify = [&](host::Sheet& sheet, const Area& area) {
+            return Classes(worksheet_of(book, sheet), area, rules);
+        };
     }
     std::string page;
     if (options.range) {
@@ -125,12 +132,19 @@ void write_page(OpenWorkbook& book, const ShowOptions& options) {
 void show(const ShowOptions& options) {
     const bool color = wants_color(options.color);
     if (options.json && !options.classes) throw UsageError("--json: show has nothing but --classes for programs");
+    if (!options.classes && !(options.prefs.empty() && options.settings.empty())) {
+        throw UsageError("--prefs, --set: show needs settings for nothing but --classes");
+    }
+    AutoColorSettings rules;
+    if (options.classes) rules = auto_color_rules(options.prefs, options.settings);
     OpenWorkbook book(options.workbook);
-    if (options.html) return write_page(book, options);
+    if (options.html) return write_page(book, options, rules);
     const Shown shown = find_area(book, options.range);
-    if (options.json) return print_classes(book, *shown.sheet, options.range ? shown.area : shown.sheet->used_area());
+    if (options.json) {
+        return print_classes(book, *shown.sheet, options.range ? shown.area : shown.sheet->used_area(), rules);
+    }
     std::optional<Classes> classes;
-    if (options.classes) classes.emplace(worksheet_of(book, *shown.sheet), shown.area);
+    if (options.classes) classes.emplace(worksheet_of(book, *shown.sheet), shown.area, rules);
     fmt::print("{}", terminal_grid(*shown.sheet, shown.area, color, classes ? &*classes : nullptr));
     if (shown.cut) fmt::print(stderr, "the sheet goes on; name a range to see more\n");
 }

@@ -117,7 +117,7 @@ class Grid {
 
     [[nodiscard]] std::string legend() const {
         std::string out = "\n";
-        for_each_class(*classes_, [&](const ClassLook& look, std::int64_t count) {
+        for_each_class(*classes_, [&](const ClassLook& look, const std::string& count) {
             out += fmt::format("{} {}  ", on_fill(fmt::format("{} {}", look.mark, look.name), look), count);
         });
         while (out.ends_with(' ')) out.pop_back();

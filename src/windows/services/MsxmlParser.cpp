@@ -6,6 +6,7 @@
 
 #include "automation/AutomationError.h"
 #include "automation/Conversion.h"
+#include "automation/Text.h"
 #include "windows/com/ComClasses.h"
 
 namespace kestrune::windows {
@@ -55,20 +56,13 @@ class Element : public brvblib::XmlElement {
     ObjectRef node_;
 };
 
-// MSXML ends what went wrong with a line break.
-std::string one_line(std::string text) {
-    for (char& c : text) {
-        if (c == '\r' || c == '\n') c = ' ';
-    }
-    while (!text.empty() && text.back() == ' ') text.pop_back();
-    return text.empty() ? "is not well-formed" : text;
-}
-
 [[noreturn]] void refuse(const ObjectRef& error) {
     const std::int32_t line = automation::to_integer(get(*error, "line"));
     const std::string place = line > 0 ? fmt::format("line {}: ", line) : "";
+    // MSXML ends what went wrong with a line break.
+    const std::string reason = automation::one_line(to_text(get(*error, "reason")));
     throw automation::AutomationError(automation::hresult::exception, "iXML",
-                                      place + one_line(to_text(get(*error, "reason"))));
+                                      place + (reason.empty() ? "is not well-formed" : reason));
 }
 
 }  // namespace
