@@ -15,7 +15,7 @@ struct Message {
 // clang-format off
 constexpr auto messages = std::to_array<Message>({
     // Start-up
-    {3021, "Your user preferences could not be found or read.  The default settings are now in use and have been saved.  A file that could not be read is kept in the same folder, under a name that says \"unreadable\"."},
+    {3021, "Your user preferences could not be found or read.  The default settings are now in use.  A file that could not be read is not lost: where it could be replaced, it is kept in the same folder, under a name that says \"unreadable\"."},
     {3025, "Unable to find the examples workbook.  Please reinstall Kestrune or contact technical support.  Missing file: "},
     {3026, "Unable to find the product help.  Please reinstall Kestrune or contact technical support.  Missing file: "},
     {3027, "The product help could not be opened: "},

@@ -99,6 +99,7 @@ void PosixFiles::write(const std::string& path, const std::string& bytes) const 
     mode_t mode = S_IRUSR | S_IWUSR | S_IRGRP | S_IROTH;
     if (::stat(target.c_str(), &about) == 0) {
         if (S_ISDIR(about.st_mode)) fail(path, "is a folder");
+        if (!S_ISREG(about.st_mode)) fail(path, "is no file");  // a device or a pipe would be gone
         // Renaming would replace a file that its owner protected.
         if (::access(target.c_str(), W_OK) != 0) fail_errno(path);
         mode = about.st_mode & 07777U;

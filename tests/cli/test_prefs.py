@@ -170,6 +170,13 @@ class BadFiles(PrefsTest):
                 self.assertIn(str(path), self.refused(*command), command)
         self.assertIn(str(self.folder), kestrune("prefs", "export", self.folder).stderr)
         self.assertEqual(kestrune("prefs", "export", "/dev/null/x.xml").returncode, 1)
+        pipe = self.folder / "pipe"
+        os.mkfifo(pipe)
+        self.assertEqual(kestrune("prefs", "export", pipe).stderr.splitlines()[-1], f"kestrune: {pipe}: is no file")
+        self.assertTrue(pipe.is_fifo(), "what is no file is not replaced by one")
+        restored = kestrune("prefs", "restore", "--prefs", self.folder)
+        self.assertEqual((restored.returncode, len(restored.stderr.splitlines())), (1, 2), "nothing was restored")
+        self.assertNotIn("have been restored", restored.stderr)
         self.assertEqual((self.own.read_bytes(), self.book.read_bytes()), (before, book))
         self.assertEqual(os.listdir(self.own.parent), [self.own.name])
         for name, content in contents.items():

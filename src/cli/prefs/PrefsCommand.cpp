@@ -20,14 +20,17 @@
 namespace kestrune::cli {
 namespace {
 
-// Answers every question as the options say, and every file dialog with one path.
+// Answers every question as the options say, and every file dialog with one path. Questions are printed at once, what
+// is told when it has come true: a dialog tells of settings before anybody put them into a file.
 class GivenFile : public forms::Presenter {
   public:
     GivenFile(const std::string& answer, std::string path) : answers_(presenter_for(answer)), path_(std::move(path)) {
-        listen([](const forms::Message& message, forms::MsgBoxResult choice) {
-            fmt::print(stderr, "{}\n", message_line(message, choice));
+        listen([this](const forms::Message& message, forms::MsgBoxResult choice) {
+            told_ += message_line(message, choice) + "\n";
+            if (forms::choices(message.buttons).size() > 1) tell();
         });
     }
+    void tell() { fmt::print(stderr, "{}", std::exchange(told_, {})); }
     std::optional<std::string> choose_file(const forms::FileDialog&) override { return path_; }
 
   private:
@@ -35,6 +38,7 @@ class GivenFile : public forms::Presenter {
 
     std::unique_ptr<forms::Presenter> answers_;
     std::string path_;
+    std::string told_;
 };
 
 // The settings in use: the user's file, or the defaults while there is none. A file that was named has to be there.
@@ -75,10 +79,12 @@ void import_prefs(const PrefsOptions& options) {
     static_cast<void>(session.load(options.other));
     const auto settings = settings::ImportUserPreferences(session.state());
     if (!settings) {
+        presenter.tell();
         fmt::print(stderr, "nothing imported\n");
         return;
     }
     session.save(*settings);
+    presenter.tell();
     fmt::print("{}: has the settings of {}\n", session.path(), options.other);
 }
 
@@ -87,6 +93,7 @@ void export_prefs(const PrefsOptions& options) {
     SettingsSession session(presenter, options.prefs);
     const auto settings = settings_in_use(session, options);
     if (!settings::ExportUserPreferences(session.state(), *settings)) throw Failure(session.last_reason());
+    presenter.tell();
     fmt::print("{}: has the settings of {}\n", options.other, session.path());
 }
 
@@ -99,6 +106,7 @@ void restore_prefs(const PrefsOptions& options) {
         return;
     }
     session.save(settings);
+    presenter.tell();
     fmt::print("{}: has the default settings\n", session.path());
 }
 
