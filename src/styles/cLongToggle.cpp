@@ -24,16 +24,27 @@ bool cLongToggle::is_ambiguous(std::size_t position) const {
     return std::ranges::count(LookFors, LookFors[position - 1]) > 1;
 }
 
-std::size_t cLongToggle::next_position(std::optional<double> shown, const excel::Range& cell) const {
+std::size_t cLongToggle::position_of(std::optional<double> shown, const excel::Range& cell) const {
     if (last_place_ && last_place_->position <= Settings.size() && LookFors[last_place_->position - 1] == shown &&
         full_address(cell) == last_place_->cell) {
-        return last_place_->position % Settings.size() + 1;
+        return last_place_->position;
     }
     // The last entry is not compared: a cell that shows it starts over just as one that shows none.
     for (std::size_t i = 1; i < Settings.size(); ++i) {
-        if (LookFors[i - 1] == shown) return i + 1;
+        if (LookFors[i - 1] == shown) return i;
     }
-    return 1;
+    return 0;
+}
+
+std::size_t cLongToggle::next_position(std::optional<double> shown, const excel::Range& cell) const {
+    const std::size_t here = position_of(shown, cell);
+    if (here == 0) return 1;
+    const std::size_t count = Settings.size();
+    const std::size_t next = here % count + 1;
+    // A press that nobody sees is none.
+    std::size_t seen = next;
+    while (seen != here && LookFors[seen - 1] == shown) seen = seen % count + 1;
+    return seen == here ? next : seen;
 }
 
 void cLongToggle::step(const automation::Trace& trace, const excel::Range& range, std::int32_t position,

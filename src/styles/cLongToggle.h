@@ -39,8 +39,8 @@ class cLongToggle {
     // Steps a range through the values of a property. Position 0 gives the whole range the value behind the one that
     // its top-left cell shows, the first when that shows none but the last; a position of the list gives that value;
     // any other, and no range, does nothing. Of values that look the same the first counts, unless this cell was just
-    // given a later one: the next press goes on from there. What the cell then shows is what the value is recognised by
-    // from now on, also where the sheet refused it.
+    // given a later one; one that looks like what the cell shows already is stepped over. What the cell then shows is
+    // what the value is recognised by from now on, also where the sheet refused it.
     void ApplyAsIndents(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
     // Cells are right-aligned; see RightIndent.h for how those of old versions are indented.
     void ApplyAsRightIndents(const core::SharedState& shared, const excel::Range& range, std::int32_t position);
@@ -70,7 +70,9 @@ class cLongToggle {
 
     void step(const automation::Trace& trace, const excel::Range& range, std::int32_t position,
               const Property& property);
-    // The position of the value behind the one that a cell shows; nothing shown is no value of the cycle.
+    // The position of the value that a cell shows, 0 for none; nothing shown is no value of the cycle.
+    [[nodiscard]] std::size_t position_of(std::optional<double> shown, const excel::Range& cell) const;
+    // The position of the next value behind it that does not look the same.
     [[nodiscard]] std::size_t next_position(std::optional<double> shown, const excel::Range& cell) const;
     // Whether another position is recognised by the same value.
     [[nodiscard]] bool is_ambiguous(std::size_t position) const;
