@@ -68,6 +68,10 @@ ObjectRef iXML::load(const std::string& path, const std::string& identifier, con
         version_ = std::move(document.version);
     } catch (const AutomationError& error) {
         last_error_ = naming(path, error.description());
+        // Nothing is known about the file then.
+        if (error.code() == automation::hresult::class_not_registered) {
+            throw AutomationError(error.code(), "iXML.Load", last_error_);
+        }
     }
     return XmlNode::of(root_);
 }

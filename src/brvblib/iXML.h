@@ -25,7 +25,7 @@ class iXML : public automation::Served<iXML> {
     // The root node of a file's document; Nothing, with LastError saying why in one line, when the file cannot be read,
     // is no XML, has a document type, or is no document of this identifier. name: who asks, as the line tells it. Given
     // the version that the client knows, a document of a later major version is not loaded either. The document held
-    // before goes in any case.
+    // before goes in any case. Fails with class-not-registered where there is nothing to read XML with.
     [[nodiscard]] automation::ObjectRef load(const std::string& path, const std::string& identifier,
                                              const std::string& name, const std::optional<std::string>& version);
     [[nodiscard]] std::string version() const { return version_; }

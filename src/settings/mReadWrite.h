@@ -34,7 +34,8 @@ std::shared_ptr<cUserSettings> load_preferences(const core::SharedState& shared,
 void save_preferences(const core::SharedState& shared, const cUserSettings& settings, std::string_view path);
 
 // Makes room for settings in the place of a file that cannot be read: it may hold years of styles, so it is renamed.
-// Its new path; empty where none is there or it can be read.
+// Its new path; empty where none is there or it can be read. Fails with class-not-registered where nothing reads files:
+// what is there may be in order.
 std::string keep_unreadable(const core::SharedState& shared, const std::string& path);
 
 // What default settings take from the libraries.

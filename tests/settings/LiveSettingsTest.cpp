@@ -10,6 +10,7 @@ namespace kestrune::settings {
 namespace {
 
 using core::Text;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -75,6 +76,28 @@ TEST_F(LiveSettingsTest, AStartReplacesWhatIsMissingOrUnreadableAndLosesNothing)
     load_settings(shared, true);
     EXPECT_EQ(shared.settings().ZoomInterval, 5) << "the defaults are in use though they cannot be saved";
     EXPECT_THAT(skipped.back(), HasSubstr("is a folder"));
+}
+
+// As on a computer whose XML parser was uninstalled.
+TEST_F(LiveSettingsTest, AFileThatNothingCanReadIsLeftAlone) {
+    struct NoParser : brvblib::XmlParser {
+        [[nodiscard]] brvblib::XmlElementRef parse(std::string_view) const override {
+            throw automation::AutomationError(automation::hresult::class_not_registered, "iXML", "no parser\r\n");
+        }
+    };
+    const std::string file = changed_file(own_name, 25);
+    brvblib::Services services{.trace = trace, .presenter = presenter, .data_folder = text_of(folder) + "/"};
+    brvblib::add_system_services(services);
+    services.xml = std::make_shared<NoParser>();
+    brvblib::register_library(std::move(services));
+    shared.general_library = std::make_shared<core::diBRVBLib>(trace);
+    ASSERT_TRUE(shared.general_library->Create());
+    load_settings(shared, true);
+    EXPECT_EQ(shared.settings().ZoomInterval, 5);
+    EXPECT_THAT(messages(), ElementsAre(text(Text::PreferencesReplaced)));
+    EXPECT_EQ(bytes(own_name), file);
+    EXPECT_THAT(names(), ElementsAre(own_name));
+    EXPECT_THAT(skipped, Contains(testing::EndsWith(own_path() + ": no parser")));
 }
 
 TEST_F(LiveSettingsTest, AFileElsewhereStandsInForTheUsersOwn) {

@@ -36,7 +36,8 @@ class XmlParser {
     virtual ~XmlParser() = default;
 
     // The root element of a text without an XML declaration or a document type. Fails with an AutomationError whose
-    // description says what is wrong and, where it is known, in which line.
+    // description says what is wrong and, where it is known, in which line; with class-not-registered when the parser
+    // is not installed.
     [[nodiscard]] virtual XmlElementRef parse(std::string_view text) const = 0;
 };
 

@@ -65,10 +65,20 @@ class Element : public brvblib::XmlElement {
                                       place + (reason.empty() ? "is not well-formed" : reason));
 }
 
+ObjectRef new_document() {
+    try {
+        return create_com_object("MSXML2.DOMDocument.6.0");
+    } catch (const automation::AutomationError& error) {
+        throw automation::AutomationError(
+            automation::hresult::class_not_registered, "iXML",
+            fmt::format("Microsoft XML Core Services 6.0, which read it, do not start: {}", error.description()));
+    }
+}
+
 }  // namespace
 
 XmlElementRef MsxmlParser::parse(std::string_view text) const {
-    const ObjectRef document = create_com_object("MSXML2.DOMDocument.6.0");
+    const ObjectRef document = new_document();
     put(*document, "async", false);
     put(*document, "validateOnParse", false);
     put(*document, "resolveExternals", false);
