@@ -37,6 +37,7 @@ constexpr auto messages = std::to_array<Message>({
     // Fields of dialogs
     {3110, "Please enter a number for the interval."},
     {3111, "Please enter a number for the %1."},
+    {3112, "Please enter an interval from 0 to 1,048,575."},
     // Styles
     {3120, "Paintbrush "},  // and a counter: the names of captured styles
     // Preferences files again

@@ -1,6 +1,7 @@
 #include "brvblib/iDate.h"
 
 #include "brvblib/Calendar.h"
+#include "brvblib/TypedDate.h"
 
 namespace kestrune::brvblib {
 
@@ -16,10 +17,15 @@ Value iDate::date_add(const std::string& interval, double number, const Value& d
     return date_later(Date{automation::to_double(date)}, interval, number);
 }
 
+Value iDate::typed(const std::string& text) const {
+    const auto date = typed_date(text, library_->services.now());
+    return date ? Value(*date) : Value();
+}
+
 const automation::MemberTable& iDate::members() {
-    static constexpr auto rows =
-        automation::member_rows(automation::read_only<&iDate::now>("Now", 1), method<&iDate::text>("Text", 2, "[Date]"),
-                                method<&iDate::date_add>("DateAdd", 3, "Interval, Number, Date"));
+    static constexpr auto rows = automation::member_rows(
+        automation::read_only<&iDate::now>("Now", 1), method<&iDate::text>("Text", 2, "[Date]"),
+        method<&iDate::date_add>("DateAdd", 3, "Interval, Number, Date"), method<&iDate::typed>("Typed", 4, "Text"));
     static constexpr automation::MemberTable table("iDate", rows);
     return table;
 }

@@ -22,6 +22,8 @@ class iDate : public automation::Served<iDate> {
     // As Visual Basic's DateAdd: Interval is "yyyy", "q", "m", "d", "ww", "h", "n", "s" ...
     [[nodiscard]] automation::Value date_add(const std::string& interval, double number,
                                              const automation::Value& date) const;
+    // The date that a person typed (TypedDate.h); Empty when it is none.
+    [[nodiscard]] automation::Value typed(const std::string& text) const;
 
     std::shared_ptr<Library> library_;
 };

@@ -13,6 +13,7 @@
 #include "smart/CleanUpCommands.h"
 #include "smart/OutlineLevels.h"
 #include "smart/RowColumnCommands.h"
+#include "smart/copy/SmartCopy.h"
 #include "styles/commands/BorderCommands.h"
 #include "styles/commands/CellContentCommands.h"
 #include "styles/commands/FontAndTextCommands.h"
@@ -66,8 +67,8 @@ constexpr Touches number_formats{Reach::Workbook, Aspects::NumberFormats};
 
 // clang-format off
 constexpr std::array<Command, 103> table{{
-    {0, later, plain, recorded},  // Smart Copy Right
-    {1, later, plain, recorded},  // Smart Copy Down
+    {0, &smart::SmartCopyToRight, plain, recorded},  // Smart Copy Right
+    {1, &smart::SmartCopyDown, plain, recorded},  // Smart Copy Down
     {2, &smart::anchor_references, plain, contents},  // Smart Anchor
     {3, later, plain, contents},  // Smart Formula Column Spacing
     {4, later, plain, contents},  // Smart Formula Row Spacing

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 #include <string>
 
 #include "excel/CommandBars.h"
@@ -42,6 +43,9 @@ class Application : public Facade<Application> {
         {"Union", Access::method,
          "Arg1! Arg2! Arg3 Arg4 Arg5 Arg6 Arg7 Arg8 Arg9 Arg10 Arg11 Arg12 Arg13 Arg14 Arg15 Arg16 Arg17 Arg18 Arg19 "
          "Arg20 Arg21 Arg22 Arg23 Arg24 Arg25 Arg26 Arg27 Arg28 Arg29 Arg30"},
+        {"Union", Access::method,
+         "Arg1! Arg2! Arg3 Arg4 Arg5 Arg6 Arg7 Arg8 Arg9 Arg10 Arg11 Arg12 Arg13 Arg14 Arg15 Arg16 Arg17 Arg18 Arg19 "
+         "Arg20 Arg21 Arg22 Arg23 Arg24 Arg25 Arg26 Arg27 Arg28 Arg29 Arg30"},
         {"Version", Access::get},
         {"Width", Access::get_put},
         {"WindowState", Access::get_put},
@@ -67,6 +71,9 @@ class Application : public Facade<Application> {
     [[nodiscard]] Range Intersect(const Range& one, const Range& other) const {
         return call<Range>("Intersect", one.object(), other.object());
     }
+    // All the cells of ranges of one sheet: 2 to 30 of them.
+    static constexpr std::size_t most_united = 30;
+    [[nodiscard]] Range Union(std::span<const Range> ranges) const;
     [[nodiscard]] std::string Name() const { return get<std::string>("Name"); }
     // The macro that Excel's Undo (Repeat) runs next, and what the menu calls it. Any later change takes it away.
     void OnUndo(std::string_view text, std::string_view procedure) const { call("OnUndo", text, procedure); }
@@ -100,5 +107,12 @@ class Application : public Facade<Application> {
     void Height(double points) const { put("Height", points); }
     [[nodiscard]] excel::Workbooks Workbooks() const { return get<excel::Workbooks>("Workbooks"); }
 };
+
+inline Range Application::Union(std::span<const Range> ranges) const {
+    constexpr detail::Checked<Application, Access::method, most_united> member("Union");
+    automation::Arguments arguments;
+    for (const Range& range : ranges) arguments.positional.emplace_back(range.object());
+    return Range(automation::to_object(invoke(member.name, automation::Call::Method, std::move(arguments))));
+}
 
 }  // namespace kestrune::excel

@@ -89,7 +89,7 @@ std::string chosen_text(const Form& form) {
     for (const FormLine& line : form_lines(form)) {
         const Control& control = *line.control;
         const bool ticked = control.is(Kind::Option) || control.is(Kind::Check);
-        if (ticked ? !control.Checked() : !is_box(control)) continue;
+        if (!control.usable() || (ticked ? !control.Checked() : !is_box(control))) continue;
         text += (text.empty() ? "" : "; ") + (ticked ? control.Caption() : line.text);
     }
     return text;

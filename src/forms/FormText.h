@@ -21,7 +21,7 @@ struct FormLine {
 // none.
 [[nodiscard]] std::vector<FormLine> form_lines(const Form& form);
 
-// What is chosen in a form, in one line: "Contiguous row labels; X: 3; Skip text".
+// What is chosen in a form, in one line, disabled controls left out: "Contiguous row labels; X: 3; Skip text".
 [[nodiscard]] std::string chosen_text(const Form& form);
 
 }  // namespace kestrune::forms

@@ -97,6 +97,59 @@ TEST_F(StringsTest, ReadsNumbersAsTheyAreTyped) {
     EXPECT_EQ(answer("iString", "Number", "x"), "<iString.Number: 'x' is not a number>");
 }
 
+TEST_F(StringsTest, ReadsDatesAsPeopleTypeThem) {
+    services.now = [] { return automation::Date{46000}; };  // 9 December 2025
+    load();
+    const struct {
+        const char* text;
+        std::optional<double> serial;
+    } cases[] = {
+        {"1/31/2026", 46053},
+        {" 01/31/26 ", 46053},
+        {"31/1/2026", 46053},
+        {"2026-01-31", 46053},
+        {"1/31", 45688},
+        {"31-Jan-26", 46053},
+        {"31 January 2026", 46053},
+        {"jan 31, 2026", 46053},
+        {"January 31", 45688},
+        {"Jan 2026", 46023},
+        {"Jan-26", 45683},
+        {"Jan-99", 36161},
+        {"5/2026", 46143},
+        {"12/31/1899", 1},
+        {"12/29/1899", -1},
+        {"2/29/2024", 45351},
+        {"9:30", 0.395833333},
+        {"9:30:15 pm", 0.896006944},
+        {"12 AM", 0},
+        {"1/31/2026 6:00 PM", 46053.75},
+        {"Jan 31 6:00", 45688.25},
+        {"2/29/2026", {}},
+        {"13/13/2026", {}},
+        {"1/1/99999", {}},
+        {"45000", {}},
+        {"1.5", {}},
+        {"", {}},
+        {"soon", {}},
+        {"25:00", {}},
+        {"9:75", {}},
+        {"13 PM", {}},
+        {"1/31/2026 x", {}},
+        {"Jan", {}},
+        {"1//2", {}},
+        {"$1/1/2026", {}},
+        {"/", {}},
+    };
+    for (const auto& one : cases) {
+        const auto date = wrapper.typed_date(one.text);
+        EXPECT_EQ(date.has_value(), one.serial.has_value()) << one.text;
+        if (date && one.serial) {
+            EXPECT_NEAR(date->serial, *one.serial, 1e-6) << one.text;
+        }
+    }
+}
+
 TEST_F(StringsTest, AFieldThatHoldsNoNumberIsNamed) {
     EXPECT_TRUE(wrapper.check_numeric_field("1,000", "start value"));
     EXPECT_TRUE(presenter.messages().empty());

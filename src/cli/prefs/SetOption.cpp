@@ -11,6 +11,7 @@
 #include "automation/Text.h"
 #include "cli/Failure.h"
 #include "settings/Fields.h"
+#include "smart/copy/Condition.h"
 
 namespace kestrune::cli {
 namespace {
@@ -57,6 +58,17 @@ bool set_field(Record& record, std::string_view name, const std::string& text, c
         if (whole && text.front() != '#' && automation::to_double(text) != record.**whole) {
             throw UsageError(fmt::format("'{}' is no whole number", text));
         }
+        return true;
+    }
+    if constexpr (requires { record.Operator; }) {
+        // It is in no preferences file, and so among no fields.
+        if (!same_text(name, "Operator")) return false;
+        const auto found =
+            std::ranges::find_if(smart::condition_operators, [&](auto word) { return same_text(word, text); });
+        if (found == smart::condition_operators.end()) {
+            throw UsageError(fmt::format("'{}' is none of {}", text, fmt::join(smart::condition_operators, ", ")));
+        }
+        record.Operator = *found;
         return true;
     }
     return false;

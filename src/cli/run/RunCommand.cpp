@@ -16,6 +16,8 @@
 #include "cli/MessageLine.h"
 #include "cli/OpenWorkbook.h"
 #include "cli/prefs/SettingsSession.h"
+#include "cli/run/FillOption.h"
+#include "cli/run/FormReport.h"
 #include "cli/run/HistorySteps.h"
 #include "cli/run/KeyStep.h"
 #include "cli/run/Select.h"
@@ -72,6 +74,10 @@ class Session {
         presenter_->listen([this](const forms::Message& message, forms::MsgBoxResult answer) {
             messages_.push_back({message, answer});
         });
+        presenter_->listen_to_forms([this](const forms::Form& form) {
+            form_lines_.push_back(form_line(form));
+            form_facts_.push_back(form_json(form));
+        });
         trace_.listen([this](std::string_view line) { skipped(line); });
     }
 
@@ -82,12 +88,16 @@ class Session {
             check_preferences();
             AddIn add_in(book.application(), book.macros(), *presenter_, trace_, &book.formats(), options_.prefs);
             for (const auto& [message, answer] : messages_) fmt::print(stderr, "{}\n", message_line(message, answer));
-            if (!options_.settings.empty()) add_in.set_options(options_.settings);
+            apply_settings(add_in);
             ordered_json report = ordered_json::array();
             const std::int32_t looked_at = book.model().active_sheet;
             for (std::size_t i = 0; i < steps_.size(); ++i) {
                 ordered_json entry = run_step(book, add_in, steps_[i], options_.steps[i]);
                 if (options_.json) report.push_back(std::move(entry));
+            }
+            for (const forms::FormFill& fill : presenter_->unused_fills()) {
+                throw Failure(
+                    fmt::format("--set {}.{}={}: no step showed this dialog", fill.form, fill.control, fill.value));
             }
             if (options_.json) fmt::print("{}\n", report.dump(1));
             // A selection says where to work; only a command moves a reader to another sheet.
@@ -110,8 +120,30 @@ class Session {
         if (!options_.prefs.empty()) static_cast<void>(SettingsSession(*presenter_, options_.prefs).load());
     }
 
+    void apply_settings(AddIn& add_in) const {
+        std::vector<std::string> settings;
+        for (const std::string& option : options_.settings) {
+            if (auto fill = fill_option(option)) {
+                presenter_->fill_in(std::move(*fill));
+            } else {
+                settings.push_back(option);
+            }
+        }
+        if (!settings.empty()) add_in.set_options(settings);
+    }
+
     ordered_json run_step(OpenWorkbook& book, AddIn& add_in, const Step& step, const std::string& text) {
+        try {
+            return run_valid_step(book, add_in, step, text);
+        } catch (const forms::FormFillError& error) {
+            throw UsageError(fmt::format("--set {}", error.what()));
+        }
+    }
+
+    ordered_json run_valid_step(OpenWorkbook& book, AddIn& add_in, const Step& step, const std::string& text) {
         messages_.clear();
+        form_lines_.clear();
+        form_facts_ = ordered_json::array();
         refusals_.clear();
         const std::int32_t looked_at = book.model().active_sheet;
         const std::int64_t before = book.session().calls();
@@ -171,6 +203,7 @@ class Session {
 
     void tell(const std::string& text, const std::string& what, std::int64_t calls) const {
         fmt::print("{:<12} {}  ({} call{})\n", text, what, calls, calls == 1 ? "" : "s");
+        for (const std::string& line : form_lines_) fmt::print("             {}\n", line);
         for (const ShownMessage& shown : messages_) {
             fmt::print("             {}\n", message_line(shown.message, shown.answer));
         }
@@ -184,16 +217,20 @@ class Session {
                              {"buttons", message.buttons},
                              {"answer", lower_case(forms::choice_name(answer))}});
         }
-        return {{"step", text}, {"ran", ran}, {"messages", shown}, {"calls", calls}};
+        ordered_json entry = {{"step", text}, {"ran", ran}, {"messages", shown}, {"calls", calls}};
+        if (!form_facts_.empty()) entry["forms"] = form_facts_;
+        return entry;
     }
 
     const RunOptions& options_;
     std::unique_ptr<forms::Presenter> presenter_;
     automation::Trace trace_;
     std::vector<Step> steps_;
-    std::vector<ShownMessage> messages_;  // of the step that runs
-    std::vector<std::string> refusals_;   // of the step that runs
-    bool moved_ = false;                  // a command went to another sheet
+    std::vector<ShownMessage> messages_;   // of the step that runs
+    std::vector<std::string> form_lines_;  // of the dialogs of the step that runs
+    ordered_json form_facts_;
+    std::vector<std::string> refusals_;  // of the step that runs
+    bool moved_ = false;                 // a command went to another sheet
 };
 
 }  // namespace

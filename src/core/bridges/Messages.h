@@ -20,6 +20,7 @@ enum class Text : std::int32_t {
     NoNumbersToScale = 3072,
     NoBookmarks = 3080,
     IntervalIsNoNumber = 3110,
+    IntervalOutOfRange = 3112,
     PaintbrushStem = 3120,  // a counter follows
     ImportReplacesSettings = 3130,
     ImportQuestion = 3131,

@@ -132,6 +132,12 @@ automation::Date diBRVBLib::date_add(std::string_view interval, double number, a
     return automation::Date{automation::to_double(call(Date, "DateAdd", {interval, number, date}))};
 }
 
+std::optional<automation::Date> diBRVBLib::typed_date(std::string_view text) const {
+    const automation::Value date = call(Date, "Typed", {text});
+    if (date.is(automation::Value::Kind::Empty)) return std::nullopt;
+    return automation::Date{automation::to_double(date)};
+}
+
 bool diBRVBLib::file_exists(std::string_view path) const { return to_boolean(call(File, "Exists", {path})); }
 
 std::string diBRVBLib::set_aside(std::string_view path, std::string_view why) const {

@@ -112,6 +112,8 @@ class diBRVBLib : public LibraryBridge {
     // Visual Basic's DateAdd has it.
     [[nodiscard]] std::string present_time_text() const;
     [[nodiscard]] automation::Date date_add(std::string_view interval, double number, automation::Date date) const;
+    // The date that a person typed; nothing when it is none.
+    [[nodiscard]] std::optional<automation::Date> typed_date(std::string_view text) const;
 
     [[nodiscard]] bool file_exists(std::string_view path) const;
     // Renames a file that makes room, so that it stays beside what replaces it: "Name (why).xml". The new path.

@@ -1,0 +1,89 @@
+"""Tools with a dialog on the command line: unattended with --set, and on a terminal."""
+
+import json
+import os
+import pathlib
+import subprocess
+import tempfile
+import unittest
+
+import openpyxl
+
+KESTRUNE = os.environ["KESTRUNE"]
+
+
+class Dialogs(unittest.TestCase):
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = pathlib.Path(folder.name)
+        os.environ["XDG_CONFIG_HOME"] = folder.name
+        self.book = self.folder / "book.xlsx"
+        self.out = self.folder / "out.xlsx"
+        book = openpyxl.Workbook()
+        for row, label in enumerate(["Item", "Revenue", "Cost", None, None, "Tax", "Net"], 1):
+            book.active.cell(row, 1, label)
+        book.active["B2"] = "=C2*2"
+        book.save(self.book)
+
+    def run_tool(self, *arguments, text_in=None, status=0):
+        result = subprocess.run([KESTRUNE, "run", str(self.book), "-o", str(self.out), *arguments], input=text_in,
+                                capture_output=True, text=True, timeout=120)
+        self.assertEqual(result.returncode, status, result.stderr)
+        return result
+
+    def column(self):
+        sheet = openpyxl.load_workbook(self.out).active
+        return [sheet.cell(row, 2).value for row in range(2, 8)]
+
+    def test_the_settings_stand_in_it_until_set_otherwise(self):
+        shown = self.run_tool("@B2", "1").stdout
+        self.assertEqual(self.column(), ["=C2*2", "=C3*2", None, None, None, None])
+        self.assertIn("BR Kestrune -- Smart Copy Down: Row labels separated by no more than X rows; X: 1; Skip", shown)
+        self.run_tool("--set", "fSmartCopy.txtInterval=2", "@B2", "1")
+        self.assertEqual(self.column(), ["=C2*2", "=C3*2", None, None, "=C6*2", "=C7*2"])
+        self.run_tool("--set", "SmartCopyDown.Show=False", "--set", "SmartCopyDown.Rule=ALWAYS", "@B2", "1")
+        self.assertEqual(self.column(), ["=C2*2", None, "=C4*2", None, "=C6*2", None])
+        # What the dialog kept holds for the next press, and undo takes the copies back.
+        step = json.loads(self.run_tool("--set", "fSmartCopy.optAll=True", "--set", "fSmartCopy.ckbShow=no", "--json",
+                                        "@B2", "1", "undo", "1").stdout)
+        self.assertEqual(self.column(), ["=C2*2", "=C3*2", None, None, "=C6*2", "=C7*2"])
+        form = step[1]["forms"][0]
+        self.assertEqual((form["form"], form["answer"]), ("fSmartCopy", "btnOK"))
+        self.assertEqual((form["controls"]["optAll"], form["controls"]["txtInterval"]), (True, "1"))
+        self.assertNotIn("forms", step[3])
+
+    def test_it_can_be_cancelled(self):
+        self.run_tool("--answer", "cancel", "@B2", "1")
+        self.assertEqual(self.column(), ["=C2*2", None, None, None, None, None])
+
+    def test_it_is_worked_on_a_terminal(self):
+        asked = self.run_tool("--answer", "ask", "@B2", "1", text_in="3\n5=x\n\n5=0\nok\n").stderr
+        self.assertIn("   3   ( ) ALL row labels", asked)
+        self.assertIn("Brannoch Kestrune: Please enter a number for the interval.", asked)
+        self.assertEqual(self.column(), ["=C2*2", "=C3*2", None, None, "=C6*2", "=C7*2"])
+
+    def test_conditions(self):
+        for setting in ("SmartCopyDown.Operator=not equal", "fSmartCopy.cmbOperator=NOT"):
+            values = "SmartCopyDown.Values=True"
+            self.run_tool("--set", values, "--set", setting, "--set", "SmartCopyDown.Value=5", "@B2", "1")
+            self.assertEqual(self.column(), ["=C2*2", "=C3*2", None, None, None, None])
+
+    def test_what_cannot_stand_in_it_is_told(self):
+        cases = [
+            ("fSmartCopy.optNone=True", 2, "the dialog has no such control"),
+            ("fSmartCopy.ckbText=perhaps", 2, "is neither True nor False"),
+            ("fSmartCopy.cmbOperator=EQUAL", 2, "the control is disabled"),
+            ("fSmartFill.optAll=True", 1, "no step showed this dialog"),
+            ("SmartCopyDown.Operator=LIKE", 2, "'LIKE' is none of EQUAL, NOT EQUAL"),
+        ]
+        for setting, status, reason in cases:
+            told = self.run_tool("--set", setting, "@B2", "1", status=status).stderr
+            self.assertIn(f"--set {setting}: ", told)
+            self.assertIn(reason, told)
+            self.assertEqual(told.count("\n"), 1)
+            self.assertFalse(self.out.exists())
+
+
+if __name__ == "__main__":
+    unittest.main()
