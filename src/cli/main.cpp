@@ -62,7 +62,9 @@ void add_run(CLI::App& app, RunOptions& options) {
                         "RunAutoColor a member");
     command->footer(
         "Steps run from left to right in one session; without steps the workbook is saved as it is.\n"
-        "Without -o and --in-place nothing is saved.");
+        "Without -o and --in-place nothing is saved.\n"
+        "Tools with a dialog show it to whoever --answer names; --set fSmartCopy.optAll=True fills in a control of "
+        "it.");
     command->callback([&options] { run(options); });
 }
 
