@@ -48,8 +48,10 @@ class ScriptedPresenter : public Presenter {
     // Every message shown so far.
     [[nodiscard]] const std::vector<Message>& messages() const { return messages_; }
 
-  private:
+  protected:
     MsgBoxResult answer_to(const Message& message) override;
+
+  private:
     void work(Form& form) override;
 
     AnswerPolicy policy_;

@@ -6,6 +6,7 @@
 #include "excel/Constants.h"
 #include "excel/Workbook.h"
 #include "formula/A1.h"
+#include "undo_histories/Tell.h"
 
 namespace kestrune::histories {
 namespace {
@@ -18,6 +19,9 @@ using automation::Value;
 
 constexpr std::int32_t rows = 24;
 constexpr std::int32_t columns = 9;
+
+// Whole rows and columns count themselves, not their cells.
+double cell_count(const excel::Range& cells) { return cells.Cells().CountLarge(); }
 
 ObjectRef part(const excel::Range& cells, std::string_view member) {
     return automation::to_object(get(*cells.object(), member));
@@ -61,7 +65,7 @@ void enter_formula(const excel::Range& cells, Dice& dice) {
 }
 void enter_array(const excel::Range& cells, Dice& dice) {
     constexpr const char* formulas[] = {"=A1:B2*2", "=TRANSPOSE(C1:D2)", "=ROW()"};
-    if (cells.CountLarge() > 60) return;
+    if (cell_count(cells) > 60) return;
     put(*cells.Areas().Item(1).object(), "FormulaArray", dice.one_of(formulas));
 }
 void clear(const excel::Range& cells, Dice& dice) {
@@ -162,7 +166,7 @@ void format_border(const excel::Range& cells, Dice& dice) {
 }
 
 void merge(const excel::Range& cells, Dice& dice) {
-    if (cells.CountLarge() > 40) return;
+    if (cell_count(cells) > 40) return;
     if (dice.chance(40)) {
         call(*cells.object(), "UnMerge");
     } else {
@@ -190,7 +194,7 @@ void add_condition(const excel::Range& cells, Dice& dice) {
 // Of rows that lie in the cells wholly, unless they are only made higher: that is what Excel lets a selection do.
 void change_rows(const excel::Range& cells, Dice& dice) {
     const ObjectRef lines = part(cells, "EntireRow");
-    if (cells.CountLarge() > 200000) return;
+    if (cell_count(cells) > 200000) return;
     switch (dice.number(0, 4)) {
         case 0:
             return put(*cells.object(), "RowHeight", dice.one_of(std::initializer_list<double>{6, 12.75, 15, 30}));
@@ -208,6 +212,8 @@ void change_rows(const excel::Range& cells, Dice& dice) {
 }
 void change_columns(const excel::Range& cells, Dice& dice) {
     const ObjectRef lines = part(cells, "EntireColumn");
+    // All columns are all rows too, which the cells may not be.
+    if (excel::Range(lines).Columns().Count() == formula::max_columns) return;
     switch (dice.number(0, 4)) {
         case 0:
             return put(*cells.object(), "ColumnWidth", dice.one_of(std::initializer_list<double>{0.5, 8.43, 20, 3}));
@@ -243,10 +249,17 @@ void change_names(const excel::Range& cells, Dice& dice) {
     }
 }
 
-using Edit = void (*)(const excel::Range& cells, Dice& dice);
-constexpr Edit edits[] = {enter_value, enter_value,   enter_formula, enter_array,      clear,         format_number,
-                          format_font, format_font,   format_fill,   format_alignment, format_border, format_border,
-                          merge,       add_condition, change_rows,   change_columns,   change_names};
+struct Edit {
+    const char* name;
+    void (*make)(const excel::Range& cells, Dice& dice);
+};
+constexpr Edit edits[] = {
+    {"value", enter_value}, {"value", enter_value},           {"formula", enter_formula}, {"array", enter_array},
+    {"clear", clear},       {"number format", format_number}, {"font", format_font},      {"font", format_font},
+    {"fill", format_fill},  {"alignment", format_alignment},  {"border", format_border},  {"border", format_border},
+    {"merge", merge},       {"condition", add_condition},     {"rows", change_rows},      {"columns", change_columns},
+    {"name", change_names},
+};
 
 formula::Area random_block(Dice& dice) {
     const std::int32_t row = dice.number(1, rows), column = dice.number(1, columns);
@@ -275,11 +288,12 @@ excel::Range random_cells(const excel::Application& application, Dice& dice) {
 void edit(const excel::Range& cells, Dice& dice) {
     const automation::Trace nobody;
     const automation::ResumeNext attempt(nobody);
-    const Edit one = dice.one_of(edits);
+    const Edit& one = dice.one_of(edits);
+    tell("    {} of {}", one.name, cells.Address());
     // A million values would only be slow.
-    const bool fills = one == enter_value || one == enter_formula;
-    if (fills && cells.CountLarge() > 500) return;
-    attempt([&] { one(cells, dice); });
+    const bool fills = one.make == enter_value || one.make == enter_formula;
+    if (fills && cell_count(cells) > 500) return;
+    attempt([&] { one.make(cells, dice); });
 }
 
 }  // namespace kestrune::histories

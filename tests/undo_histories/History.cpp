@@ -5,6 +5,7 @@
 #include "automation/ResumeNext.h"
 #include "core/CommandTable.h"
 #include "undo_histories/Edits.h"
+#include "undo_histories/Tell.h"
 
 namespace kestrune::histories {
 namespace {
@@ -58,20 +59,19 @@ class Player {
         // An undo point that is open ends here, whatever the ending.
         automation::call(add_in_.undo_redo(), "BeginStep", {"the end", 0, 0});
         automation::call(add_in_.undo_redo(), "EndStep");
+        played_.steps = add_in_.undoable();
     }
     void undo_all() {
         while (add_in_.undoable() > 0 && move("BRUndo")) {
         }
     }
+    // What had been undone when the history ended stays so.
     void redo_all() {
-        while (add_in_.redoable() > 0 && move("BRRedo")) {
+        while (add_in_.undoable() < played_.steps && move("BRRedo")) {
         }
+        if (add_in_.undoable() != played_.steps) played_.complaints.emplace_back("some steps were not redone");
     }
-    [[nodiscard]] Played told() const {
-        Played played{add_in_.undoable(), {}};
-        for (const forms::Message& message : add_in_.messages()) played.complaints.push_back(message.text);
-        return played;
-    }
+    [[nodiscard]] const Played& played() const { return played_; }
 
   private:
     excel::Range select() {
@@ -83,18 +83,26 @@ class Player {
     void press() {
         const excel::Range cells = select();
         if (dice_.chance(10)) {
+            tell("a cycle's style on {}!{}", cells.Worksheet().Name(), cells.Address());
             automation::call(add_in_.global(), "ApplySmartCycleStyle",
                              {dice_.number(1, 15), dice_.number(0, 4), cells.object()});
             return;
         }
         std::string request = std::to_string(dice_.one_of(undoable_commands()));
         if (dice_.chance(40)) request += "." + std::to_string(dice_.number(1, 6));
+        tell("{} on {}!{}", request, cells.Worksheet().Name(), cells.Address());
         automation::call(add_in_.global(), "RunMacro", {request});
     }
     // A macro of the user's own, which sets an undo point first.
     void run_a_macro() {
         const excel::Range cells = select();
+        tell("a macro on {}!{}", cells.Worksheet().Name(), cells.Address());
+        const std::size_t asked = add_in_.messages().size();
         automation::call(add_in_.global(), "SetBRUndo");
+        if (add_in_.messages().size() > asked) {
+            tell("    {}", add_in_.messages().back().text);
+            return;
+        }
         for (int i = dice_.number(0, 3); i >= 0; --i) edit(cells, dice_);
         // The point ends before anything else happens elsewhere.
         automation::call(add_in_.undo_redo(), "BeginStep", {"nothing", 0, 0});
@@ -103,10 +111,17 @@ class Player {
     // A command that records what it writes.
     void take_a_step() {
         constexpr std::int32_t everything = 127;
+        tell("a step");
         automation::call(add_in_.undo_redo(), "BeginStep", {"a step", 0, 0});
         for (int i = dice_.number(1, 3); i > 0; --i) {
             const excel::Range cells = random_cells(world_.application(), dice_);
-            automation::call(add_in_.undo_redo(), "Record", {cells.object(), everything});
+            tell("  records {}!{}", cells.Worksheet().Name(), cells.Address());
+            const bool go_on =
+                automation::to_boolean(automation::call(add_in_.undo_redo(), "Record", {cells.object(), everything}));
+            if (!go_on) {
+                tell("    {}", add_in_.messages().back().text);
+                break;
+            }
             for (int j = dice_.number(0, 2); j >= 0; --j) edit(cells, dice_);
         }
         automation::call(add_in_.undo_redo(), "EndStep");
@@ -119,8 +134,14 @@ class Player {
     }
     bool move(std::string_view member) {
         const std::size_t before = add_in_.undoable();
-        const FaultOn on(fault_);
-        automation::call(add_in_.global(), member);
+        const std::size_t told = add_in_.messages().size();
+        tell("{}", member);
+        {
+            const FaultOn on(fault_);
+            automation::call(add_in_.global(), member);
+        }
+        for (std::size_t i = told; i < add_in_.messages().size(); ++i)
+            played_.complaints.push_back(add_in_.messages()[i].text);
         return add_in_.undoable() != before;
     }
 
@@ -128,6 +149,7 @@ class Player {
     AddIn add_in_;
     Dice dice_;
     Fault* fault_;
+    Played played_;
 };
 
 }  // namespace
@@ -137,7 +159,7 @@ Played play(const World& world, std::uint64_t seed, Ending ending, Fault* fault)
     player.live();
     if (ending != Ending::AsItIs) player.undo_all();
     if (ending == Ending::UndoneAndRedone) player.redo_all();
-    return player.told();
+    return player.played();
 }
 
 std::vector<std::string> faults_of_history(std::uint64_t seed, Fault* fault) {

@@ -12,7 +12,7 @@ namespace kestrune::histories {
 enum class Ending : std::uint8_t { AsItIs, Undone, UndoneAndRedone };
 
 struct Played {
-    std::size_t steps = 0;                // that undo knew at the end
+    std::size_t steps = 0;                // that could be undone when it had been lived
     std::vector<std::string> complaints;  // messages of the add-in: undo that was refused
 };
 

@@ -25,6 +25,11 @@ World::World(std::uint64_t seed) {
     for (int i = 0; i < edits; ++i) edit(random_cells(application_, dice), dice);
 }
 
+forms::MsgBoxResult Careful::answer_to(const forms::Message& message) {
+    if (message.text.find("cannot be undone: ") != std::string::npos) answer_next(forms::vbCancel);
+    return ScriptedPresenter::answer_to(message);
+}
+
 AddIn::AddIn(const World& world, Fault* fault) {
     brvblib::register_library({.trace = trace_, .presenter = presenter_});
     brxllib::register_library(trace_, {.presenter = &presenter_});

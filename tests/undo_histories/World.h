@@ -28,6 +28,11 @@ class World {
     excel::Application application_;
 };
 
+// Says yes to everything but to going on without undo.
+class Careful : public forms::ScriptedPresenter {
+    forms::MsgBoxResult answer_to(const forms::Message& message) override;
+};
+
 // The add-in in front of a world, with all that it says.
 class AddIn {
   public:
@@ -47,7 +52,7 @@ class AddIn {
   private:
     [[nodiscard]] std::size_t count(std::string_view history) const;
 
-    forms::ScriptedPresenter presenter_;
+    Careful presenter_;
     automation::Trace trace_;
     automation::ObjectRef entry_;
     automation::ObjectRef global_;

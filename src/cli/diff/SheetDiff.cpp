@@ -134,8 +134,8 @@ void SheetDiff::settings() {
                     rules_text(after_.conditional_formats()));
 }
 
-void SheetDiff::columns() {
-    // Both sheets' runs cut the columns into stretches that are alike on either side.
+// Both sheets' runs cut the columns into stretches that are alike on either side.
+std::vector<SheetDiff::Stretch> SheetDiff::stretches() {
     std::set<std::int32_t> starts{1};
     for (host::Sheet* sheet : {&before_, &after_}) {
         for (const host::ColumnRun& run : sheet->columns().runs()) {
@@ -143,10 +143,16 @@ void SheetDiff::columns() {
             if (run.last < formula::max_columns) starts.insert(run.last + 1);
         }
     }
-    LineChanges changes;
+    std::vector<Stretch> stretches;
     for (auto start = starts.begin(); start != starts.end(); ++start) {
-        const std::int32_t first = *start;
-        const std::int32_t last = std::next(start) == starts.end() ? formula::max_columns : *std::next(start) - 1;
+        stretches.push_back({*start, std::next(start) == starts.end() ? formula::max_columns : *std::next(start) - 1});
+    }
+    return stretches;
+}
+
+void SheetDiff::columns() {
+    LineChanges changes;
+    for (const auto [first, last] : stretches()) {
         const host::ColumnRun a = before_.columns().at(first), b = after_.columns().at(first);
         const auto note = [&](std::string_view property, const std::string& was, const std::string& is) {
             changes.add(first, last, property, was, is);
@@ -179,6 +185,7 @@ void SheetDiff::rows() {
         for (const auto& [row, format] : sheet->row_formats()) rows.insert(row);
     }
     const host::RowFormat plain;
+    const std::vector<Stretch> columns = stretches();
     LineChanges changes;
     for (const std::int32_t row : rows) {
         const host::RowFormat* stored_a = before_.row_format(row);
@@ -193,23 +200,36 @@ void SheetDiff::rows() {
         note("Hidden", a.hidden ? "True" : "False", b.hidden ? "True" : "False");
         note("OutlineLevel", fmt::format("{}", a.outline_level + 1), fmt::format("{}", b.outline_level + 1));
         if (a.has_style || b.has_style) {
-            StylePair pair{a.has_style ? a.style : 0, b.has_style ? b.style : 0};
-            pair.taken_over = lines_taken_over(pair, [&](host::Edge edge) -> std::optional<StylePair> {
-                const std::int32_t beside = row - (edge == host::Edge::Top) + (edge == host::Edge::Bottom);
-                const auto style_of = [&](host::Sheet& sheet) {
-                    const host::RowFormat* format = sheet.row_format(beside);
-                    return format && format->has_style ? format->style : 0;
-                };
-                if (beside < 1 || beside > formula::max_rows) return std::nullopt;
-                return StylePair{style_of(before_), style_of(after_)};
-            });
-            tell_line_format(changes, row, row, pair);
+            for (const StylePair& pair : blank_formats_of(row, columns)) tell_line_format(changes, row, row, pair);
         }
     }
     for (const LineChanges::Line& line : changes.lines()) {
         tell_({on_sheet(formula::area_text({line.first, 1, line.last, formula::max_columns})), line.property,
                line.before, line.after});
     }
+}
+
+// How the blank cells of a row look, by its own format or by those of the columns.
+std::vector<SheetDiff::StylePair> SheetDiff::blank_formats_of(std::int32_t row, const std::vector<Stretch>& columns) {
+    const auto shown = [](host::Sheet& sheet, std::int32_t at, std::int32_t column) {
+        const host::RowFormat* format = sheet.row_format(at);
+        return format && format->has_style ? format->style : sheet.columns().style_at(column);
+    };
+    std::vector<StylePair> pairs;
+    for (const auto [first, last] : columns) {
+        std::int32_t column = first;
+        // Where either sheet has a cell, cells are compared.
+        while (column <= last && (before_.find({row, column}) || after_.find({row, column}))) ++column;
+        if (column > last) continue;
+        StylePair pair{shown(before_, row, first), shown(after_, row, first)};
+        pair.taken_over = lines_taken_over(pair, [&, start = first](host::Edge edge) -> std::optional<StylePair> {
+            const std::int32_t beside = row - (edge == host::Edge::Top) + (edge == host::Edge::Bottom);
+            if (beside < 1 || beside > formula::max_rows) return std::nullopt;
+            return StylePair{shown(before_, beside, start), shown(after_, beside, start)};
+        });
+        if (std::ranges::find(pairs, pair) == pairs.end()) pairs.push_back(pair);
+    }
+    return pairs;
 }
 
 void SheetDiff::tell_line_format(LineChanges& changes, std::int32_t first, std::int32_t last, StylePair pair) {

@@ -32,6 +32,12 @@ class SheetDiff {
     // The places in format_properties where two formats differ.
     const std::vector<std::size_t>& differences(StylePair pair);
     void tell_format(const std::string& place, StylePair pair);
+    struct Stretch {
+        std::int32_t first;
+        std::int32_t last;
+    };
+    [[nodiscard]] std::vector<Stretch> stretches();
+    [[nodiscard]] std::vector<StylePair> blank_formats_of(std::int32_t row, const std::vector<Stretch>& columns);
     void tell_line_format(LineChanges& changes, std::int32_t first, std::int32_t last, StylePair pair);
     void compare_cell(formula::Position at);
     // The sides, bits of Edge, on which a person sees the same line as before, or whose change the neighbour tells;

@@ -140,6 +140,15 @@ Area Sheet::used_area() {
         used.first_column = std::min(used.first_column, column);
         used.last_column = column;
     }
+    // What an array shows is used, whether a value of it is stored or not.
+    for (const std::uint32_t index : arrays_) {
+        if (!array_is_live(index)) continue;
+        const Area& reach = formulas_[index].reach;
+        used.first_row = std::min(used.first_row, reach.first_row);
+        used.last_row = std::max(used.last_row, reach.last_row);
+        used.first_column = std::min(used.first_column, reach.first_column);
+        used.last_column = std::max(used.last_column, reach.last_column);
+    }
     const auto counts = [](const auto& entry) {
         const RowFormat& row = entry.second;
         return row.has_style || row.custom_height || row.hidden || row.outline_level > 0;
