@@ -152,7 +152,9 @@ void format_alignment(const excel::Range& cells, Dice& dice) {
     }
 }
 void format_border(const excel::Range& cells, Dice& dice) {
-    const excel::Border line = cells.Borders(dice.number(5, 12));
+    // A line below whole columns makes a million rows used, which only takes time.
+    const bool whole_columns = cell_count(cells) > formula::max_rows;
+    const excel::Border line = cells.Borders(whole_columns ? excel::xlEdgeLeft : dice.number(5, 12));
     switch (dice.number(0, 3)) {
         case 0:
             return line.LineStyle(dice.one_of(std::initializer_list<std::int32_t>{1, -4115, 4, 5, -4118, -4119, 13}));

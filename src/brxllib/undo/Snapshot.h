@@ -26,8 +26,8 @@ class Snapshot {
     static std::optional<Snapshot> take(const excel::Application& application, const excel::Range& area,
                                         Aspects aspects, std::size_t most_bytes, const automation::Trace& trace);
 
-    // What take would hold, told by the size of the area and what it takes to record a cell; formats may part it
-    // further. Asks a handful of calls. Bytes.
+    // What take would hold at least, told by the size of the area; what cells hold, and how often their formats change,
+    // adds to it. Asks a handful of calls. Bytes.
     [[nodiscard]] static std::size_t estimate(const excel::Range& area, Aspects aspects);
 
     // Gives the recorded cells exactly this state again. Writes nothing that is so already. What Excel refuses is

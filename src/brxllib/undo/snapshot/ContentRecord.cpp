@@ -107,6 +107,9 @@ void ContentRecord::restore(const std::vector<Piece>& pieces, Restoring& restori
     for (const Piece& piece : pieces) {
         const auto filled = piece.used ? std::nullopt : piece.cells.intersection(used);
         if (!filled) continue;
+        // An array may reach in from the cells that are on record.
+        Budget unlimited(std::numeric_limits<std::size_t>::max());
+        clear_other_arrays(take(sheet, {{*filled, true}}, unlimited), restoring);
         const std::string address = formula::area_text(*filled);
         restoring(address, "Value", [&] { sheet.Range(address).Value2(Value()); });
     }
