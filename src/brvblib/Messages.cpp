@@ -38,6 +38,8 @@ constexpr auto messages = std::to_array<Message>({
     {3110, "Please enter a number for the interval."},
     {3111, "Please enter a number for the %1."},
     {3112, "Please enter an interval from 0 to 1,048,575."},
+    {3113, "Please enter a number from 1 to 1,048,575 for the cells that go together."},
+    {3114, "Please enter an adjustment from -1,048,575 to 1,048,575."},
     // Styles
     {3120, "Paintbrush "},  // and a counter: the names of captured styles
     // Preferences files again

@@ -14,6 +14,7 @@
 #include "smart/OutlineLevels.h"
 #include "smart/RowColumnCommands.h"
 #include "smart/copy/SmartCopy.h"
+#include "smart/spacing/FormulaSpacing.h"
 #include "styles/commands/BorderCommands.h"
 #include "styles/commands/CellContentCommands.h"
 #include "styles/commands/FontAndTextCommands.h"
@@ -70,8 +71,8 @@ constexpr std::array<Command, 103> table{{
     {0, &smart::SmartCopyToRight, plain, recorded},  // Smart Copy Right
     {1, &smart::SmartCopyDown, plain, recorded},  // Smart Copy Down
     {2, &smart::anchor_references, plain, contents},  // Smart Anchor
-    {3, later, plain, contents},  // Smart Formula Column Spacing
-    {4, later, plain, contents},  // Smart Formula Row Spacing
+    {3, &smart::SmartFormulaColumnSpacing, plain, contents},  // Smart Formula Column Spacing
+    {4, &smart::SmartFormulaRowSpacing, plain, contents},  // Smart Formula Row Spacing
     {5, later, plain, recorded},  // Smart Fill Dates
     {6, later, plain, recorded},  // Smart Fill Numbers
     {7, later, plain, nothing},  // Smart Precedents

@@ -21,6 +21,8 @@ enum class Text : std::int32_t {
     NoBookmarks = 3080,
     IntervalIsNoNumber = 3110,
     IntervalOutOfRange = 3112,
+    GroupSizeOutOfRange = 3113,
+    AdjustmentOutOfRange = 3114,
     PaintbrushStem = 3120,  // a counter follows
     ImportReplacesSettings = 3130,
     ImportQuestion = 3131,

@@ -6,6 +6,7 @@
 #include "brvblib/register_library.h"
 #include "core/bridges/SharedState.h"
 #include "smart/copy/fSmartCopy.h"
+#include "smart/spacing/fSmartFmlaSpacing.h"
 #include "windows/TakePicture.h"
 #include "windows/Win32Presenter.h"
 #include "windows/forms/Hand.h"
@@ -63,6 +64,19 @@ TEST_F(ToolDialogs, SmartCopy) {
         EXPECT_TRUE(options.Values);
         EXPECT_FALSE(options.Show);
     }
+}
+
+TEST_F(ToolDialogs, SmartFormulaSpacing) {
+    settings::SmartFmlaRowSpacingOptions kept;
+    smart::fSmartFmlaSpacing form(state, {"rows", "Row adjustment", "Smart Formula Row Spacing"},
+                                  {kept.FmlaRows, kept.ReferenceRows, kept.Show});
+    take("smart-formula-spacing");
+    hand.type(L"4");
+    hand.key(VK_TAB);
+    hand.type(L"12");
+    hand.key(VK_RETURN);
+    form.Show(presenter);
+    EXPECT_EQ(kept, (settings::SmartFmlaRowSpacingOptions{4, 12, true}));
 }
 
 }  // namespace
