@@ -58,6 +58,8 @@ constexpr Touches contents{Reach::Selection, entries};
 constexpr Touches separators{Reach::Selection, entries | Aspects::Rows};
 constexpr Touches row_sizes{Reach::Selection, Aspects::Rows};
 constexpr Touches column_sizes{Reach::Selection, Aspects::Columns};
+// A selection of whole rows is grouped as rows, whichever direction is asked for.
+constexpr Touches outline_lines{Reach::Selection, Aspects::Rows | Aspects::Columns};
 constexpr Touches all_rows{Reach::Sheet, Aspects::Rows};
 constexpr Touches all_columns{Reach::Sheet, Aspects::Columns};
 constexpr Touches outline{Reach::Sheet, Aspects::Rows | Aspects::Columns};
@@ -135,10 +137,10 @@ constexpr std::array<Command, 103> table{{
     {64, grid<smart::RowColumnCommand::InsertColumns>, plain, recorded},  // Insert Columns
     {65, grid<smart::RowColumnCommand::DeleteRows>, plain, recorded},  // Delete Rows
     {66, grid<smart::RowColumnCommand::DeleteColumns>, plain, recorded},  // Delete Columns
-    {67, grid<smart::RowColumnCommand::GroupRows>, plain, row_sizes},  // Group Rows
-    {68, grid<smart::RowColumnCommand::GroupColumns>, plain, column_sizes},  // Group Columns
-    {69, grid<smart::RowColumnCommand::UngroupRows>, plain, row_sizes},  // Ungroup Rows
-    {70, grid<smart::RowColumnCommand::UngroupColumns>, plain, column_sizes},  // Ungroup Columns
+    {67, grid<smart::RowColumnCommand::GroupRows>, plain, outline_lines},  // Group Rows
+    {68, grid<smart::RowColumnCommand::GroupColumns>, plain, outline_lines},  // Group Columns
+    {69, grid<smart::RowColumnCommand::UngroupRows>, plain, outline_lines},  // Ungroup Rows
+    {70, grid<smart::RowColumnCommand::UngroupColumns>, plain, outline_lines},  // Ungroup Columns
     {71, grid<smart::RowColumnCommand::ExpandAllRowLevels>, plain, all_rows},  // Expand All Row Levels
     {72, grid<smart::RowColumnCommand::ExpandAllColumnLevels>, plain, all_columns},  // Expand All Column Levels
     {73, grid<smart::RowColumnCommand::CollapseRowLevels>, plain, all_rows},  // Collapse Row Levels

@@ -81,8 +81,11 @@ inline constexpr std::int32_t xlGreater = 5;
 inline constexpr std::int32_t xlLess = 6;
 
 // XlCellType
+inline constexpr std::int32_t xlCellTypeAllValidation = -4174;
+inline constexpr std::int32_t xlCellTypeComments = -4144;
 inline constexpr std::int32_t xlCellTypeConstants = 2;
 inline constexpr std::int32_t xlCellTypeFormulas = -4123;
+inline constexpr std::int32_t xlCellTypeSameValidation = -4175;
 
 // XlCalculation
 inline constexpr std::int32_t xlCalculationManual = -4135;

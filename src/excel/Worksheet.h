@@ -9,6 +9,7 @@
 #include "excel/Outline.h"
 #include "excel/Protection.h"
 #include "excel/Range.h"
+#include "excel/Shapes.h"
 
 namespace kestrune::excel {
 
@@ -30,6 +31,7 @@ class Worksheet : public Facade<Worksheet> {
         {"Protection", Access::get},
         {"ProtectionMode", Access::get},
         {"Range", Access::get, "Cell1! Cell2"},
+        {"Shapes", Access::get},
         {"StandardWidth", Access::get_put},
         {"UsedRange", Access::get},
         {"Visible", Access::get_put},
@@ -54,6 +56,7 @@ class Worksheet : public Facade<Worksheet> {
     [[nodiscard]] bool ProtectionMode() const { return get<bool>("ProtectionMode"); }
     // By address or defined name ("B2:C5,E7").
     [[nodiscard]] excel::Range Range(std::string_view address) const { return get<excel::Range>("Range", address); }
+    [[nodiscard]] excel::Shapes Shapes() const { return get<excel::Shapes>("Shapes"); }
     [[nodiscard]] double StandardWidth() const { return get<double>("StandardWidth"); }  // characters
     void StandardWidth(double width) const { put("StandardWidth", width); }
     [[nodiscard]] excel::Range UsedRange() const { return get<excel::Range>("UsedRange"); }

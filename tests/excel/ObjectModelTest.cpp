@@ -53,7 +53,7 @@ struct Facades {
 using AllFacades = Facades<Application, Areas, Border, Borders, CommandBar, CommandBarButton, CommandBarControl,
                            CommandBarControls, CommandBarPopup, CommandBars, Font, FormatCondition, FormatConditions,
                            Hyperlink, Hyperlinks, Interior, ListObject, ListObjects, Name, Names, Outline, Protection,
-                           Range, Style, Window, Workbook, Workbooks, Worksheet, Worksheets>;
+                           Range, Shape, Shapes, Style, Window, Workbook, Workbooks, Worksheet, Worksheets>;
 
 TEST(ObjectModel, EveryMemberThatAFacadeCallsIsExcels) {
     EXPECT_THAT(AllFacades::compare(), testing::IsEmpty());

@@ -24,6 +24,7 @@
 #include "host/objects/OutlineObject.h"
 #include "host/objects/ProtectionObject.h"
 #include "host/objects/RangeObject.h"
+#include "host/objects/ShapesObject.h"
 #include "host/objects/SheetsObject.h"
 #include "host/objects/StyleObject.h"
 #include "host/objects/StylesObject.h"
@@ -75,6 +76,8 @@ TEST(ServedMembers, AreExcels) {
         &InteriorObject::members(),
         &ListObjectObject::members(),
         &ListObjectsObject::members(),
+        &ShapeObject::members(),
+        &ShapesObject::members(),
         &NameObject::members(),
         &NamesObject::members(),
         &OutlineObject::members(),

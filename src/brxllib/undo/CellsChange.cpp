@@ -13,16 +13,16 @@ using automation::AutomationError;
 namespace {
 
 // Nothing when the sheet, or its workbook, is no more.
-std::optional<std::string> sheet_name_of(const excel::Range& cells) {
+std::optional<std::string> sheet_name_of(const Snapshot& cells) {
     try {
-        return cells.Worksheet().Name();
+        return cells.held()->sheet().Name();
     } catch (const AutomationError&) {
         return {};
     }
 }
 
-std::string refusal(const excel::Range& cells, const std::string& line) {
-    const excel::Worksheet sheet = cells.Worksheet();
+std::string refusal(const Snapshot& cells, const std::string& line) {
+    const excel::Worksheet& sheet = cells.held()->sheet();
     return sheet.ProtectContents() ? "the worksheet " + formula::quoted_sheet(sheet.Name()) + " is protected" : line;
 }
 
@@ -46,7 +46,7 @@ std::optional<Obstacle> CellsChange::obstacle(Direction) const {
 
 std::string CellsChange::obstacle_of(const Cells& cells) const {
     if (!cells.present) return "more was changed than can be remembered";
-    const auto sheet = sheet_name_of(cells.before.area());
+    const auto sheet = sheet_name_of(cells.before);
     if (!sheet) return "its worksheet or workbook is no longer there";
     if (!cells.before.in_place()) {
         return "rows or columns have been inserted or deleted on " + formula::quoted_sheet(*sheet);
@@ -67,7 +67,7 @@ void CellsChange::give_back(const Order& order, Wanted wanted) {
     for (const Cells& cells : order) {
         const std::vector<std::string> refusals = wanted(cells).restore(trace_);
         if (refusals.empty()) continue;
-        std::string why = refusal(cells.before.area(), refusals.front());
+        std::string why = refusal(cells.before, refusals.front());
         for (const Cells& touched : cells_) {
             const std::vector<std::string> lost = touched.present->restore(trace_);
             if (lost.empty()) continue;
@@ -80,6 +80,10 @@ void CellsChange::give_back(const Order& order, Wanted wanted) {
         cells.present = cells.before.again(most_bytes_, trace_);
         if (cells.present == wanted(cells)) cells.present = wanted(cells);
     }
+}
+
+void CellsChange::visit_cells(const VisitHeldCells& visit) const {
+    for (const Cells& cells : cells_) visit(cells.before.held());
 }
 
 std::size_t CellsChange::bytes() const {

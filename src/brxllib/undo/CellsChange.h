@@ -22,6 +22,7 @@ class CellsChange final : public Change {
     [[nodiscard]] std::optional<Obstacle> obstacle(Direction direction) const override;
     void undo() override;
     void redo() override;
+    void visit_cells(const VisitHeldCells& visit) const override;
     [[nodiscard]] std::size_t bytes() const override;
 
   private:

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "brxllib/undo/HeldCells.h"
+
 namespace kestrune::brxllib::undo {
 
 enum class Direction : std::uint8_t { Undo, Redo };
@@ -37,6 +39,14 @@ class Change {
     // was there when it does.
     virtual void undo() = 0;
     virtual void redo() = 0;
+
+    // The cells that it speaks of.
+    virtual void visit_cells(const VisitHeldCells& visit) const = 0;
+    // What other changes lose by it, when it is one that has rows or columns go in a direction (Redo is how it happens
+    // at first); else null.
+    [[nodiscard]] virtual LostCells* loses(Direction) { return nullptr; }
+    // What a person wants to see once it has moved, as Excel's own undo selects it; nothing when it has no such cells.
+    [[nodiscard]] virtual excel::Range shown(Direction) const { return {}; }
 
     // What it holds in memory.
     [[nodiscard]] virtual std::size_t bytes() const = 0;

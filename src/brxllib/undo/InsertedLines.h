@@ -1,11 +1,9 @@
 #pragma once
 
-#include <string>
 #include <vector>
 
 #include "automation/Value.h"
 #include "brxllib/undo/Change.h"
-#include "excel/Application.h"
 
 namespace kestrune::brxllib::undo {
 
@@ -14,26 +12,31 @@ namespace kestrune::brxllib::undo {
 class InsertedLines final : public Change {
   public:
     // `before`: as many rows (columns) as are to come in, in front of each of their areas.
-    InsertedLines(excel::Application application, excel::Range before, bool rows);
+    InsertedLines(excel::Application application, const excel::Range& before, bool rows);
 
     bool finish() override;
     [[nodiscard]] std::optional<Obstacle> obstacle(Direction direction) const override;
     void undo() override;
     void redo() override;
+    void visit_cells(const VisitHeldCells& visit) const override;
+    [[nodiscard]] LostCells* loses(Direction direction) override {
+        return direction == Direction::Undo ? &lost_ : nullptr;
+    }
+    [[nodiscard]] excel::Range shown(Direction direction) const override;
     [[nodiscard]] std::size_t bytes() const override;
 
   private:
-    void find_inserted();
-    // What each inserted area shows of the used range, as formulas; Empty outside it.
+    // What each inserted area shows of the used range, as formulas; Empty when all of it is blank.
     [[nodiscard]] std::vector<automation::Value> contents() const;
 
     excel::Application application_;
-    excel::Range origin_;  // moves along with its cells
     bool rows_;
-    std::string address_;  // of the origin, while nothing is inserted
-    excel::Range inserted_;
-    std::string inserted_address_;
+    std::vector<formula::Area> areas_;   // of the origin, while nothing is inserted
+    std::vector<formula::Area> places_;  // of what is inserted
+    HeldCellsRef origin_;
+    HeldCellsRef inserted_;
     std::vector<automation::Value> contents_;
+    LostCells lost_;
 };
 
 }  // namespace kestrune::brxllib::undo

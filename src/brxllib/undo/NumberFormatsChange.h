@@ -21,6 +21,7 @@ class NumberFormatsChange final : public Change {
     [[nodiscard]] std::optional<Obstacle> obstacle(Direction direction) const override;
     void undo() override;
     void redo() override;
+    void visit_cells(const VisitHeldCells&) const override {}
     [[nodiscard]] std::size_t bytes() const override;
 
   private:

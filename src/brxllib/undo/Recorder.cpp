@@ -28,6 +28,15 @@ constexpr std::size_t records_of_a_change = 2;
 
 constexpr std::string_view too_much = "it changes more than undo can hold";
 
+// The first few clauses, as one.
+std::string listed(const std::vector<std::string>& clauses) {
+    constexpr std::size_t most = 4;
+    std::string text;
+    for (std::size_t i = 0; i < clauses.size() && i < most; ++i) text += (i > 0 ? "; " : "") + clauses[i];
+    if (clauses.size() > most) text += fmt::format("; and {} more", clauses.size() - most);
+    return text;
+}
+
 }  // namespace
 
 std::string place_of(const excel::Range& cells) {
@@ -75,7 +84,8 @@ bool Recorder::begin(std::string name, Reach reach, Aspects aspects, bool number
         Step& step = *library_.undo.open();
         if (step.place.empty()) {
             step.place = target.place;
-            if (reach == Reach::Selection && !target.ranges.empty()) step.cells = target.ranges.front();
+            if (reach == Reach::Selection && !target.ranges.empty())
+                step.cells = std::make_shared<HeldCells>(library_.application, target.ranges.front());
         }
         wanted = record_all(target, aspects);
         if (number_formats && library_.around.formats) {
@@ -96,7 +106,7 @@ bool Recorder::set_point() {
     Step& step = *library_.undo.open();
     if (step.place.empty()) {
         step.place = target.place;
-        step.cells = target.ranges.front();
+        step.cells = std::make_shared<HeldCells>(library_.application, target.ranges.front());
     }
     if (record_all(target, Aspects::all())) return true;
     library_.undo.cancel();
@@ -126,28 +136,42 @@ std::size_t Recorder::free_bytes() const {
 }
 
 bool Recorder::record_insertion(const excel::Range& lines, bool rows) {
-    if (!records()) return true;
-    Stack& stack = library_.undo;
-    if (stack.open()->place.empty()) stack.open()->place = place_of(lines);
-    stack.add(std::make_unique<InsertedLines>(library_.application, lines, rows));
-    return true;
+    return record_lines(lines, [&](Stack& stack) {
+        stack.add(std::make_unique<InsertedLines>(library_.application, lines, rows));
+        return true;
+    });
 }
 
 bool Recorder::record_deletion(const excel::Range& lines, bool rows) {
+    return record_lines(lines, [&](Stack& stack) {
+        auto change = DeletedLines::take(library_.application, lines, rows, free_bytes(), library_.trace);
+        if (!change) return give_up(too_much);
+        if (const auto lost = change->irreplaceable(); !lost.empty()) return give_up(listed(lost));
+        stack.add(std::move(change));
+        return true;
+    });
+}
+
+// What Excel does not let record is asked about, too: it must not go unnoticed.
+template <class Record>
+bool Recorder::record_lines(const excel::Range& lines, Record&& record) {
     if (!records()) return true;
     Stack& stack = library_.undo;
     if (stack.open()->place.empty()) stack.open()->place = place_of(lines);
-    auto change = DeletedLines::take(library_.application, lines, rows, free_bytes(), library_.trace);
-    if (!change) return give_up(too_much);
-    if (!change->irreplaceable().empty()) return give_up(change->irreplaceable().front());
-    stack.add(std::move(change));
-    return true;
+    try {
+        return record(stack);
+    } catch (const AutomationError& error) {
+        return give_up(error.description());
+    }
 }
 
 bool Recorder::record(const excel::Range& cells, Aspects aspects) {
     if (!records() || aspects.empty()) return true;
     Stack& stack = library_.undo;
-    if (stack.open()->place.empty()) stack.open()->place = place_of(cells);
+    if (stack.open()->place.empty()) {
+        stack.open()->place = place_of(cells);
+        stack.open()->cells = std::make_shared<HeldCells>(library_.application, cells);
+    }
     const std::size_t most = stack.limits().bytes;
     const std::size_t free = free_bytes();
     if (Snapshot::estimate(cells, aspects) > free) return give_up(too_much);

@@ -52,6 +52,8 @@ class Recorder {
     [[nodiscard]] std::size_t free_bytes() const;
     [[nodiscard]] Target target_of(Reach reach) const;
     bool record_all(const Target& target, Aspects aspects);
+    template <class Record>
+    bool record_lines(const excel::Range& lines, Record&& record);
     [[nodiscard]] bool tell(const Outcome& outcome, std::string_view what) const;
     [[nodiscard]] std::string caption() const;
 

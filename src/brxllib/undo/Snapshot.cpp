@@ -57,7 +57,7 @@ class WithoutEvents {
 
 struct Snapshot::State {
     excel::Application application;
-    excel::Range range;
+    HeldCellsRef held;
     excel::Worksheet sheet;
     Aspects aspects;
     std::vector<Area> areas{};
@@ -75,15 +75,16 @@ struct Snapshot::State {
 
 std::optional<Snapshot> Snapshot::take(const excel::Application& application, const excel::Range& area, Aspects aspects,
                                        std::size_t most_bytes, const automation::Trace& trace) {
-    State state{application, area, area.Worksheet(), aspects};
+    auto held = std::make_shared<HeldCells>(application, area);
+    State state{application, held, held->sheet(), aspects};
     state.areas = areas_of(area);
     state.used = used_area(state.sheet);
     return record(std::move(state), most_bytes, trace);
 }
 
 std::optional<Snapshot> Snapshot::again(std::size_t most_bytes, const automation::Trace& trace) const {
-    State state{state_->application, state_->range, state_->sheet, state_->aspects};
-    state.areas = areas_of(state.range);
+    State state{state_->application, state_->held, state_->sheet, state_->aspects};
+    state.areas = areas_of(state.held->range());
     state.used = state_->used;
     // Records of the same cells are cut alike, so that they compare, as long as no cell beyond holds anything.
     const Area used = used_area(state.sheet);
@@ -119,7 +120,7 @@ std::optional<Snapshot> Snapshot::record(State state, std::size_t most_bytes, co
         }
         if (aspects.has(Aspect::Merges)) state.merges = MergeRecord::take(sheet, state.areas, budget);
         if (aspects.has(Aspect::Conditions)) {
-            state.conditions = ConditionRecord::take(state.range, budget, trace);
+            state.conditions = ConditionRecord::take(state.held->range(), budget, trace);
             state.conditions.tell_irreplaceable(state.areas, state.irreplaceable);
         }
         if (aspects.has(Aspect::Names)) state.names = NameRecord::take(sheet.Parent(), budget, trace);
@@ -151,7 +152,7 @@ std::vector<std::string> Snapshot::restore(const automation::Trace& trace) const
         if (state.aspects.has(Aspect::Contents)) state.contents.restore(state.pieces, restoring);
         if (state.aspects.has(Aspect::Merges)) state.merges.merge(restoring);
         state.formats.restore(restoring);
-        if (state.aspects.has(Aspect::Conditions)) state.conditions.restore(state.range, restoring);
+        if (state.aspects.has(Aspect::Conditions)) state.conditions.restore(state.held->range(), restoring);
         state.rows.restore(restoring);
         state.columns.restore(restoring);
         if (state.aspects.has(Aspect::Names)) state.names.restore(state.sheet.Parent(), restoring);
@@ -172,15 +173,9 @@ bool Snapshot::operator==(const Snapshot& other) const {
 
 const std::vector<std::string>& Snapshot::irreplaceable() const { return state_->irreplaceable; }
 
-bool Snapshot::in_place() const {
-    try {
-        return areas_of(state_->range) == state_->areas;
-    } catch (const automation::AutomationError&) {
-        return false;
-    }
-}
+bool Snapshot::in_place() const { return state_->held->areas() == state_->areas; }
 
-const excel::Range& Snapshot::area() const { return state_->range; }
+const HeldCellsRef& Snapshot::held() const { return state_->held; }
 Aspects Snapshot::aspects() const { return state_->aspects; }
 
 std::size_t Snapshot::bytes() const {

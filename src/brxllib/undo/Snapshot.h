@@ -9,6 +9,7 @@
 
 #include "automation/Trace.h"
 #include "brxllib/undo/Aspects.h"
+#include "brxllib/undo/HeldCells.h"
 #include "excel/Application.h"
 
 namespace kestrune::brxllib::undo {
@@ -48,7 +49,8 @@ class Snapshot {
     // or in them, or their sheet has gone. Only in place it restores.
     [[nodiscard]] bool in_place() const;
 
-    [[nodiscard]] const excel::Range& area() const;
+    // The recorded cells, which all records of them share.
+    [[nodiscard]] const HeldCellsRef& held() const;
     [[nodiscard]] Aspects aspects() const;
     // Memory held.
     [[nodiscard]] std::size_t bytes() const;

@@ -18,17 +18,53 @@ std::size_t bytes_of(const std::deque<Step>& steps) {
     return sum;
 }
 
-void apply(Change& change, Direction direction) {
-    if (direction == Direction::Undo) {
+// Says while it lives that undo or redo is at work.
+class Moving {
+  public:
+    explicit Moving(bool& flag) : flag_(flag) { flag_ = true; }
+    ~Moving() { flag_ = false; }
+    Moving(const Moving&) = delete;
+    Moving& operator=(const Moving&) = delete;
+
+  private:
+    bool& flag_;
+};
+
+}  // namespace
+
+// Rows and columns that go take cells of other changes with them, and give them back when they come again.
+void Stack::apply(Change& change, Direction direction) {
+    const bool undoes = direction == Direction::Undo;
+    LostCells* const loses = change.loses(direction);
+    LostCells* const returns = change.loses(undoes ? Direction::Redo : Direction::Undo);
+    if (loses) {
+        *loses = {};
+        look_at_all_cells(*loses);
+    }
+    if (returns) returns->keep_untouched();
+    if (undoes) {
         change.undo();
     } else {
         change.redo();
     }
+    if (loses) loses->settle();
+    if (returns) returns->hold_again();
+}
+
+void Stack::look_at_all_cells(LostCells& lost) const {
+    const auto look = [&](const HeldCellsRef& cells) { lost.look(cells); };
+    const auto look_at = [&](const Step& step) {
+        if (step.cells) lost.look(step.cells);
+        for (const auto& change : step.changes) change->visit_cells(look);
+    };
+    for (const Step& step : done_) look_at(step);
+    for (const Step& step : undone_) look_at(step);
+    if (open_) look_at(*open_);
 }
 
 // Moves the changes from first to last; on an obstacle moves those back that have gone already.
 template <class Iterator>
-std::optional<Obstacle> move_all(Iterator first, Iterator last, Direction direction) {
+std::optional<Obstacle> Stack::move_all(Iterator first, Iterator last, Direction direction) {
     const Direction back = direction == Direction::Undo ? Direction::Redo : Direction::Undo;
     std::optional<Obstacle> obstacle;
     Iterator at = first;
@@ -55,20 +91,6 @@ std::optional<Obstacle> move_all(Iterator first, Iterator last, Direction direct
     return obstacle;
 }
 
-// Says while it lives that undo or redo is at work.
-class Moving {
-  public:
-    explicit Moving(bool& flag) : flag_(flag) { flag_ = true; }
-    ~Moving() { flag_ = false; }
-    Moving(const Moving&) = delete;
-    Moving& operator=(const Moving&) = delete;
-
-  private:
-    bool& flag_;
-};
-
-}  // namespace
-
 void Stack::begin(std::string name) {
     end_point();
     if (!open_) open_ = std::make_unique<Step>(Step{std::move(name)});
@@ -87,6 +109,7 @@ void Stack::add(std::unique_ptr<Change> change) {
     if (given_up_) return;
     finish_last();
     open_->changes.push_back(std::move(change));
+    if (LostCells* lost = open_->changes.back()->loses(Direction::Redo)) look_at_all_cells(*lost);
 }
 
 void Stack::finish_last() {
@@ -98,7 +121,8 @@ void Stack::finish_last() {
     } catch (const AutomationError&) {
         // What cannot be looked at any more cannot be given back.
     }
-    if (!changed) changes.pop_back();
+    if (!changed) return changes.pop_back();
+    if (LostCells* lost = changes.back()->loses(Direction::Redo)) lost->settle();
 }
 
 void Stack::give_up() {
@@ -152,7 +176,13 @@ Outcome Stack::move(Direction direction) {
     }
     to.push_back(std::move(from.back()));
     from.pop_back();
-    return {Kind::Done, to.back().description(), {}, to.back().cells};
+    const Step& step = to.back();
+    excel::Range shown;
+    if (step.cells) shown = step.cells->range();
+    for (const auto& change : step.changes) {
+        if (!shown) shown = change->shown(direction);
+    }
+    return {Kind::Done, step.description(), {}, shown};
 }
 
 std::vector<std::string> Stack::descriptions(const Steps& steps) {

@@ -28,7 +28,7 @@ struct Outcome {
     Kind kind = Kind::Nothing;
     std::string description{};  // of the step
     std::string why{};          // it did not go: a clause for a person
-    excel::Range cells{};       // of the step, if they were the selection
+    excel::Range cells{};       // of the step: those that were selected, or that it had come and go
 };
 
 // The steps that can be undone, and those undone that can be done again.
@@ -77,6 +77,10 @@ class Stack {
 
     static std::vector<std::string> descriptions(const Steps& steps);
     Outcome move(Direction direction);
+    template <class Iterator>
+    std::optional<Obstacle> move_all(Iterator first, Iterator last, Direction direction);
+    void apply(Change& change, Direction direction);
+    void look_at_all_cells(LostCells& lost) const;
     void end_point();
     void close();
     void finish_last();

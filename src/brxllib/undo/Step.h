@@ -13,7 +13,7 @@ namespace kestrune::brxllib::undo {
 struct Step {
     std::string name;      // "Currency SmartCycle"
     std::string place{};   // "Model!B4:F20"; empty where a step has no one place
-    excel::Range cells{};  // what was selected, for a step of a selection
+    HeldCellsRef cells{};  // what was selected, for a step of a selection
     std::vector<std::unique_ptr<Change>> changes{};
 
     [[nodiscard]] std::string description() const { return place.empty() ? name : name + " on " + place; }

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -169,10 +170,13 @@ class Sheet {
 
     // Rows and columns. Heights in points, widths in characters of the Normal font's widest digit as a
     // user sees them (padding taken off).
-    [[nodiscard]] double row_height(std::int32_t row);                          // 0 when hidden
-    void set_row_height(std::int32_t first, std::int32_t last, double points);  // rounded to pixels; 0 hides
-    [[nodiscard]] double column_width(std::int32_t column);                     // 0 when hidden
-    [[nodiscard]] std::int32_t column_pixels(std::int32_t column);              // at 96 dpi; 0 when hidden
+    [[nodiscard]] double row_height(std::int32_t row);  // 0 when hidden
+    // Rounded to pixels; 0 hides. Heights that rows of the file have are whole pixels of the screen that it was made
+    // on, and taken as they are.
+    void set_row_height(std::int32_t first, std::int32_t last, double points);
+    void know_height(double points) { known_heights_.insert(points); }
+    [[nodiscard]] double column_width(std::int32_t column);         // 0 when hidden
+    [[nodiscard]] std::int32_t column_pixels(std::int32_t column);  // at 96 dpi; 0 when hidden
     [[nodiscard]] std::int32_t default_column_pixels() const;
     void set_column_width(std::int32_t first, std::int32_t last, double characters);
     [[nodiscard]] const RowFormat* row_format(std::int32_t row);  // null for a plain row
@@ -273,6 +277,7 @@ class Sheet {
     std::string name_;
     SheetKind kind_;
     std::function<void(Sheet&)> loader_;
+    std::set<double> known_heights_;
     bool unsorted_ = false;              // while loading: some column's cells did not come from top to bottom
     std::vector<std::uint32_t> arrays_;  // the formulas_ that cover more than their own cell
     std::vector<std::unique_ptr<CellColumn>> cells_;

@@ -62,7 +62,7 @@ void Sheet::change_rows(std::int32_t first, std::int32_t last, const std::functi
 }
 
 void Sheet::set_row_height(std::int32_t first, std::int32_t last, double points) {
-    const double height = whole_pixel_points(points);
+    const double height = known_heights_.contains(points) ? points : whole_pixel_points(points);
     if (first == 1 && last == formula::max_rows) {
         ensure_loaded();
         const bool hides = height == 0;

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "host/model/LyingThings.h"
 #include "host/model/Sheet.h"
 #include "host/model/StringTable.h"
 #include "host/model/StyleTable.h"
@@ -65,6 +66,7 @@ class Workbook {
     std::function<FormatsElsewhere()> formats_elsewhere;
     std::function<std::vector<Table>()> read_tables;
     std::function<std::vector<std::string>()> read_external_links;
+    std::function<LyingThings(std::size_t sheet)> read_lying;  // 0-based; what lies there now
     // Asked before rows or columns come or go: fails with ModelError when something of the file cannot follow, and
     // gives back what makes it follow.
     std::function<std::function<void()>(const formula::Edit&)> prepare_edit;

@@ -88,10 +88,13 @@ inline constexpr std::int32_t xlToLeft = -4159;
 inline constexpr std::int32_t xlToRight = -4161;
 inline constexpr std::int32_t xlUp = -4162;
 
+inline constexpr std::int32_t xlCellTypeAllValidation = -4174;
 inline constexpr std::int32_t xlCellTypeBlanks = 4;
+inline constexpr std::int32_t xlCellTypeComments = -4144;
 inline constexpr std::int32_t xlCellTypeConstants = 2;
 inline constexpr std::int32_t xlCellTypeFormulas = -4123;
 inline constexpr std::int32_t xlCellTypeLastCell = 11;
+inline constexpr std::int32_t xlCellTypeSameValidation = -4175;
 inline constexpr std::int32_t xlNumbers = 1;
 inline constexpr std::int32_t xlTextValues = 2;
 inline constexpr std::int32_t xlLogical = 4;

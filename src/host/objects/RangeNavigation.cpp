@@ -11,6 +11,7 @@
 #include "host/objects/RangeObject.h"
 #include "host/objects/RangeReference.h"
 #include "host/objects/Refusal.h"
+#include "host/objects/ShapesObject.h"
 #include "host/objects/SpecialCells.h"
 
 namespace kestrune::host {
@@ -199,13 +200,37 @@ ObjectRef RangeObject::current_region() const {
     return make({filled_region(cells_.sheet(), Area::cell(cells_.first().top_left()))});
 }
 
+// Cells with comments, or with validations: all, or those of the rule that the first cell has.
+std::vector<Area> RangeObject::lying_cells(std::int32_t type) const {
+    const LyingThings things = lying_on(cells_.sheet());
+    std::vector<Area> wanted;
+    if (type == xlCellTypeComments) wanted = things.comments;
+    for (const auto& rule : things.validations) {
+        if (type == xlCellTypeComments) break;
+        const Position first = cells_.first().top_left();
+        const bool same = std::ranges::any_of(rule, [&](const Area& area) { return area.contains(first); });
+        if (type == xlCellTypeAllValidation || same) wanted.insert(wanted.end(), rule.begin(), rule.end());
+    }
+    const bool whole_sheet = cells_.areas().size() == 1 && cells_.first().single_cell();
+    std::vector<Area> found;
+    for (const Area& area : whole_sheet ? std::vector{Area::sheet()} : cells_.areas()) {
+        for (const Area& one : wanted)
+            if (const auto common = area.intersection(one)) found.push_back(*common);
+    }
+    if (found.empty()) refuse("Range.SpecialCells", "No cells were found.");
+    return found;
+}
+
 ObjectRef RangeObject::special_cells(std::int32_t type, const Value& kinds) const {
     constexpr std::string_view member = "Range.SpecialCells";
     Sheet& sheet = cells_.sheet();
     const Area used = sheet.used_area();
     if (type == xlCellTypeLastCell) return make({Area::cell({used.last_row, used.last_column})});
+    if (type == xlCellTypeComments || type == xlCellTypeAllValidation || type == xlCellTypeSameValidation) {
+        return make(lying_cells(type));
+    }
     if (type != xlCellTypeConstants && type != xlCellTypeFormulas && type != xlCellTypeBlanks) {
-        refuse(member, "the host finds constants, formulas, blank cells and the last cell only");
+        refuse(member, "the host finds constants, formulas, blank cells, comments, validations and the last cell only");
     }
     const SpecialCells wanted{type, value_or(kinds, xlNumbers | xlTextValues | xlLogical | xlErrors)};
     const bool whole_sheet = cells_.areas().size() == 1 && cells_.first().single_cell();

@@ -54,6 +54,7 @@ class RangeObject final : public HostObject<RangeObject> {
     // Constants, formulas, blank cells or the last cell, in the used range; of the whole sheet for a single cell. Error
     // 1004 when there are none.
     [[nodiscard]] ObjectRef special_cells(std::int32_t type, const Value& kinds) const;
+    [[nodiscard]] std::vector<Area> lying_cells(std::int32_t type) const;
     [[nodiscard]] ObjectRef next() const;
     [[nodiscard]] ObjectRef previous() const;
 

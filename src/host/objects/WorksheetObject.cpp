@@ -10,6 +10,7 @@
 #include "host/objects/ProtectionObject.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/RangeReference.h"
+#include "host/objects/ShapesObject.h"
 #include "host/objects/SheetMeasures.h"
 
 namespace kestrune::host {
@@ -50,6 +51,7 @@ ObjectRef WorksheetObject::used_range() const {
     return std::make_shared<RangeObject>(CellRange(session(), sheet(), {sheet().used_area()}));
 }
 
+ObjectRef WorksheetObject::shapes() const { return std::make_shared<ShapesObject>(session(), sheet()); }
 ObjectRef WorksheetObject::list_objects() const { return std::make_shared<ListObjectsObject>(session(), sheet()); }
 ObjectRef WorksheetObject::names() const { return std::make_shared<NamesObject>(session(), sheet()); }
 ObjectRef WorksheetObject::outline() const { return std::make_shared<OutlineObject>(session(), sheet()); }
@@ -141,7 +143,8 @@ const MemberTable& WorksheetObject::members() {
                             "[AllowDeletingColumns], [AllowDeletingRows], [AllowSorting], [AllowFiltering], "
                             "[AllowUsingPivotTables]"),
         method<&W::unprotect>("Unprotect", 22, "[Password]"), read_only<&W::protection>("Protection", 23),
-        read_only<&W::protection_mode>("ProtectionMode", 24), read_only<&W::list_objects>("ListObjects", 25));
+        read_only<&W::protection_mode>("ProtectionMode", 24), read_only<&W::list_objects>("ListObjects", 25),
+        read_only<&W::shapes>("Shapes", 26));
     static constexpr MemberTable table("Worksheet", rows);
     return table;
 }

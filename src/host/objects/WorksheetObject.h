@@ -17,6 +17,7 @@ class WorksheetObject final : public SheetObject<WorksheetObject> {
     [[nodiscard]] ObjectRef used_range() const;
     [[nodiscard]] ObjectRef names() const;
     [[nodiscard]] ObjectRef list_objects() const;
+    [[nodiscard]] ObjectRef shapes() const;
     [[nodiscard]] ObjectRef outline() const;
     [[nodiscard]] ObjectRef hyperlinks() const;
     [[nodiscard]] ObjectRef protection() const;

@@ -157,6 +157,7 @@ class SheetReader : public XmlParser {
         if (child.local() != "sheetFormatPr") return;
         read_sheet_child(package(), part(), child, sheet_);
         row_xml_.default_height = sheet_.defaults().default_row_height;
+        sheet_.know_height(row_xml_.default_height);
     }
 
     void start_row(XmlAttributes attributes) {
@@ -185,6 +186,7 @@ class SheetReader : public XmlParser {
         last_row_ = row_;
         layout_.rows.push_back({row_, row_begin_});
         if (!row_format_.plain()) {
+            if (row_format_.height >= 0) sheet_.know_height(row_format_.height);
             auto& rows = sheet_.loaded_rows();
             rows.insert_or_assign(rows.end(), row_, row_format_);
         }

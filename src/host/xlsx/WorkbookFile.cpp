@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <span>
 #include <utility>
 
 #include "host/xlsx/FormatsElsewhere.h"
+#include "host/xlsx/LyingReading.h"
 #include "host/xlsx/SheetReader.h"
 #include "host/xlsx/SheetWriter.h"
 #include "host/xlsx/StringsReader.h"
@@ -47,6 +49,15 @@ WorkbookFile::WorkbookFile(Package package) : package_(std::move(package)) {
         std::vector<std::string> parts;
         for (const SheetPart& sheet : sheets_) parts.push_back(sheet.name);
         return read_tables(package_, parts);
+    };
+    book_.read_lying = [this](std::size_t position) {
+        const SheetPart& part = sheets_[position];
+        std::vector<formula::Edit> edits;
+        for (const formula::Edit& edit : std::span(book_.edits()).subspan(part.edits))
+            if (formula::means_edited_sheet({}, book_.sheets()[position]->name(), edit)) edits.push_back(edit);
+        book_.sheets()[position]->ensure_loaded();
+        return part.name.empty() ? LyingThings()
+                                 : read_lying(package_, part.name, base_of(part).text, part.layout, edits);
     };
     book_.prepare_edit = [this](const formula::Edit& edit) { return prepare_edit(edit); };
     book_.read_external_links = [this] { return read_external_links(package_, book_.path); };

@@ -25,6 +25,7 @@ struct FakeChange : Change {
     [[nodiscard]] std::optional<Obstacle> obstacle(Direction) const override { return in_the_way; }
     void undo() override { move("undo "); }
     void redo() override { move("redo "); }
+    void visit_cells(const VisitHeldCells&) const override {}
     [[nodiscard]] std::size_t bytes() const override { return size; }
 
     void move(const char* way) {

@@ -1,0 +1,64 @@
+#include "brxllib/undo/HeldCells.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+#include "automation/AutomationError.h"
+#include "brxllib/autocolor/ClassReader.h"
+#include "brxllib/autocolor/Rectangles.h"
+
+namespace kestrune::brxllib::undo {
+
+using formula::Area;
+
+HeldCells::HeldCells(excel::Application application, excel::Range cells)
+    : application_(std::move(application)), sheet_(cells.Worksheet()), range_(std::move(cells)) {}
+
+std::optional<std::vector<Area>> HeldCells::areas() const {
+    try {
+        return areas_of(range_);
+    } catch (const automation::AutomationError&) {
+        return std::nullopt;
+    }
+}
+
+void HeldCells::hold(const std::vector<Area>& areas) {
+    std::span<const Area> left(areas);
+    excel::Range range;
+    while (!left.empty()) {
+        const AddressText address = address_of(left);
+        const excel::Range more = sheet_.Range(address.text);
+        range = range ? application_.Union(range, more) : more;
+        left = left.subspan(address.areas);
+    }
+    range_ = range;
+}
+
+void LostCells::look(const HeldCellsRef& cells) {
+    if (auto areas = cells->areas()) lost_.push_back({cells, std::move(*areas)});
+}
+
+void LostCells::settle() {
+    for (Lost& lost : lost_) {
+        if (const auto cells = lost.cells.lock()) lost.after = cells->areas();
+    }
+    std::erase_if(lost_, [](const Lost& lost) { return lost.cells.expired() || lost.after == lost.before; });
+}
+
+void LostCells::keep_untouched() {
+    std::erase_if(lost_, [](const Lost& lost) {
+        const auto cells = lost.cells.lock();
+        return !cells || cells->areas() != lost.after;
+    });
+}
+
+void LostCells::hold_again() {
+    for (const Lost& lost : lost_) {
+        const auto cells = lost.cells.lock();
+        if (cells && cells->areas() != lost.before) cells->hold(lost.before);
+    }
+    lost_.clear();
+}
+
+}  // namespace kestrune::brxllib::undo
