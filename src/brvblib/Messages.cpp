@@ -40,8 +40,15 @@ constexpr auto messages = std::to_array<Message>({
     {3112, "Please enter an interval from 0 to 1,048,575."},
     {3113, "Please enter a number from 1 to 1,048,575 for the cells that go together."},
     {3114, "Please enter an adjustment from -1,048,575 to 1,048,575."},
+    {3115, "Please enter a date from 3/1/1900 to 12/31/9999 for the start date."},
+    {3116, "Please enter a date from 3/1/1900 to 12/31/9999 for the end date."},
+    {3117, "The end date must not be before the start date."},
+    {3118, "Please enter a spacing from 1 to 1,048,575."},
+    {3119, "Please enter an interval value greater than zero.  Numbers are filled in descending order when the end value is below the start value."},
     // Styles
     {3120, "Paintbrush "},  // and a counter: the names of captured styles
+    // Series
+    {3121, "The series does not fit on the worksheet from the selected cell on.  Please select another cell or change the series."},
     // Preferences files again
     {3130, "Importing user preferences will replace all of your current settings, including your styles, SmartCycles and colors."},
     {3131, "You can export your current settings first to be able to return to them.  Would you like to proceed?"},

@@ -14,6 +14,7 @@
 #include "smart/OutlineLevels.h"
 #include "smart/RowColumnCommands.h"
 #include "smart/copy/SmartCopy.h"
+#include "smart/fill/SmartFill.h"
 #include "smart/spacing/FormulaSpacing.h"
 #include "styles/commands/BorderCommands.h"
 #include "styles/commands/CellContentCommands.h"
@@ -75,8 +76,8 @@ constexpr std::array<Command, 103> table{{
     {2, &smart::anchor_references, plain, contents},  // Smart Anchor
     {3, &smart::SmartFormulaColumnSpacing, plain, contents},  // Smart Formula Column Spacing
     {4, &smart::SmartFormulaRowSpacing, plain, contents},  // Smart Formula Row Spacing
-    {5, later, plain, recorded},  // Smart Fill Dates
-    {6, later, plain, recorded},  // Smart Fill Numbers
+    {5, &smart::SmartFillDates, plain, recorded},  // Smart Fill Dates
+    {6, &smart::SmartFillNumbers, plain, recorded},  // Smart Fill Numbers
     {7, later, plain, nothing},  // Smart Precedents
     {8, later, plain, nothing},  // Smart Dependents
     {9, set_bookmark, plain, names},  // Set Bookmark

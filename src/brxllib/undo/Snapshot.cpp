@@ -16,8 +16,8 @@ namespace {
 
 using formula::Area;
 
-// What a used cell takes on record at least, on average: a blank block takes nothing, a full one nine bytes a cell and its
-// texts. Areas that are too large by this are not even read.
+// What a used cell takes on record at least, on average: a blank block takes nothing, a full one nine bytes a cell and
+// its texts. Areas that are too large by this are not even read.
 constexpr std::size_t bytes_of_content = 2;
 // What an area takes whose cells are alike.
 constexpr std::size_t bytes_of_area = 8'192;

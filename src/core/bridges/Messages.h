@@ -23,6 +23,12 @@ enum class Text : std::int32_t {
     IntervalOutOfRange = 3112,
     GroupSizeOutOfRange = 3113,
     AdjustmentOutOfRange = 3114,
+    StartIsNoDate = 3115,
+    EndIsNoDate = 3116,
+    EndBeforeStart = 3117,
+    SpacingOutOfRange = 3118,
+    IntervalNotPositive = 3119,
+    SeriesDoesNotFit = 3121,
     PaintbrushStem = 3120,  // a counter follows
     ImportReplacesSettings = 3130,
     ImportQuestion = 3131,

@@ -5,7 +5,10 @@
 #include "automation/CreateObject.h"
 #include "brvblib/register_library.h"
 #include "core/bridges/SharedState.h"
+#include "settings/cUserSettings.h"
 #include "smart/copy/fSmartCopy.h"
+#include "smart/fill/fSmartFillDates.h"
+#include "smart/fill/fSmartFillNumbers.h"
 #include "smart/spacing/fSmartFmlaSpacing.h"
 #include "windows/TakePicture.h"
 #include "windows/Win32Presenter.h"
@@ -77,6 +80,34 @@ TEST_F(ToolDialogs, SmartFormulaSpacing) {
     hand.key(VK_RETURN);
     form.Show(presenter);
     EXPECT_EQ(kept, (settings::SmartFmlaRowSpacingOptions{4, 12, true}));
+}
+
+TEST_F(ToolDialogs, SmartFill) {
+    state.user_settings = std::make_shared<settings::cUserSettings>();
+    state.user_settings->LoadDefaults({.today = automation::Date{46349}});
+    settings::SmartFillDatesOptions dates = state.user_settings->SmartFillDates;
+    smart::fSmartFillDates date_form(state, dates);
+    hand.access_key(L'p');
+    hand.key(VK_DOWN);
+    hand.key(VK_DOWN);
+    hand.access_key(L'd');
+    take("smart-fill-dates");
+    hand.key(VK_RETURN);
+    date_form.Show(presenter);
+    EXPECT_EQ(dates.StartDate, automation::Date{46081}) << "28 February 2026";
+    EXPECT_FALSE(dates.Across);
+    settings::SmartFillNumbersOptions numbers;
+    smart::fSmartFillNumbers number_form(state, numbers);
+    hand.access_key(L'p');
+    hand.access_key(L'i');
+    hand.type(L"0");
+    hand.key(VK_RETURN);
+    take("smart-fill-message");
+    hand.key(VK_RETURN);
+    take("smart-fill-numbers");
+    hand.key(VK_ESCAPE);
+    number_form.Show(presenter);
+    EXPECT_FALSE(number_form.confirmed());
 }
 
 }  // namespace
