@@ -46,12 +46,12 @@ class Dialogs(unittest.TestCase):
         self.assertEqual(self.column(), ["=C2*2", None, "=C4*2", None, "=C6*2", None])
         # What the dialog kept holds for the next press, and undo takes the copies back.
         step = json.loads(self.run_tool("--set", "fSmartCopy.optAll=True", "--set", "fSmartCopy.ckbShow=no", "--json",
-                                        "@B2", "1", "undo", "1").stdout)
+                                        "@B2", "1", "undo", "@B2", "1").stdout)
         self.assertEqual(self.column(), ["=C2*2", "=C3*2", None, None, "=C6*2", "=C7*2"])
         form = step[1]["forms"][0]
         self.assertEqual((form["form"], form["answer"]), ("fSmartCopy", "btnOK"))
         self.assertEqual((form["controls"]["optAll"], form["controls"]["txtInterval"]), (True, "1"))
-        self.assertNotIn("forms", step[3])
+        self.assertNotIn("forms", step[4])
 
     def test_it_can_be_cancelled(self):
         self.run_tool("--answer", "cancel", "@B2", "1")
