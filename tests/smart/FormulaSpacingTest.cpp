@@ -73,6 +73,10 @@ TEST_F(FormulaSpacingTest, FormulasAdvanceAtTheirOwnPace) {
     cells("P50").Formula("=P1");
     space("P50:P53", "4", 1, -1);
     EXPECT_EQ(formulas("P50:P53"), "=P1|=#REF!|=#REF!|=#REF!|");
+    // Two cells of one shift, of which only the second reaches beyond the last row.
+    cells("B1048570").Formula("=C1048575");
+    space("B1048570:B1048576", "4", 4, 1);
+    EXPECT_EQ(formulas("B1048574:B1048576"), "=C1048576|=C1048576|=#REF!|");
     cells("Q10").Formula("=Q1");
     space("Q10:Q13,R10:R11", "4", 1, 1);
     EXPECT_EQ(formulas("Q10:Q13"), "=Q1|=Q2|=Q3|=Q4|");
