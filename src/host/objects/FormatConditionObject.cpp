@@ -30,7 +30,8 @@ void FormatConditionObject::modify_applies_to_range(const ObjectRef& range) {
         ConditionalFormat fresh;
         fresh.pivot = format.pivot;
         fresh.rules.push_back(rule_.rule());
-        std::erase_if(format.rules, [&](const ConditionalRule& rule) { return rule.priority == priority(); });
+        std::erase_if(format.rules,
+                      [&, own = priority()](const ConditionalRule& rule) { return rule.priority == own; });
         holder = formats.insert(formats.end(), std::move(fresh));
     }
     // What the rule says of its cells, it says of the others just so; all that nobody here reads of it stays.
