@@ -31,7 +31,9 @@ forms::MsgBoxResult Careful::answer_to(const forms::Message& message) {
 }
 
 AddIn::AddIn(const World& world, Fault* fault) {
-    brvblib::register_library({.trace = trace_, .presenter = presenter_});
+    // The same clock for the same history: bookmarks are named by it.
+    const auto now = [second = 0]() mutable { return automation::Date{46000 + ++second / 86400.0}; };
+    brvblib::register_library({.trace = trace_, .presenter = presenter_, .now = now});
     brxllib::register_library(trace_, {.presenter = &presenter_});
     core::register_add_in(presenter_, trace_);
     // The add-in's own library, since its undo is looked at from outside, too.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "automation/AutomationError.h"
 #include "automation/ResumeNext.h"
 #include "brxllib/autocolor/ClassReader.h"
 #include "brxllib/undo/Lines.h"
@@ -42,19 +43,21 @@ class ThereAndBack {
 };
 
 // None where Excel finds none, which it tells by a failure.
-Areas special_cells(const excel::Range& range, std::int32_t type, const automation::ResumeNext& attempt) {
-    Areas found;
-    attempt([&] { found = areas_of(range.SpecialCells(type)); });
-    return found;
+Areas special_cells(const excel::Range& range, std::int32_t type) {
+    try {
+        return areas_of(range.SpecialCells(type));
+    } catch (const automation::AutomationError&) {
+        return {};
+    }
 }
 
 // A rule goes on over rows that come in between its cells, so that only those that end in the lines are cut short.
-bool cuts_validations(const excel::Range& lines, const ThereAndBack& way, const automation::ResumeNext& attempt) {
-    Areas left = special_cells(lines, excel::xlCellTypeAllValidation, attempt);
+bool cuts_validations(const excel::Range& lines, const ThereAndBack& way) {
+    Areas left = special_cells(lines, excel::xlCellTypeAllValidation);
     const excel::Worksheet sheet = lines.Worksheet();
     while (!left.empty()) {
         const excel::Range first = sheet.Range(formula::cell_text(left.back().top_left()));
-        Areas same = special_cells(first, excel::xlCellTypeSameValidation, attempt);
+        Areas same = special_cells(first, excel::xlCellTypeSameValidation);
         if (!std::ranges::all_of(same, [&](const Area& area) { return way.keeps(area); })) return true;
         same.push_back(Area::cell(left.back().top_left()));
         for (const Area& area : same) {
@@ -78,10 +81,10 @@ std::vector<std::string> things_lost_with(const excel::Range& lines, const Areas
     attempt([&] {
         if (lines.Hyperlinks().Count() > 0) clauses.emplace_back("its cells hold hyperlinks");
     });
-    if (!special_cells(lines, excel::xlCellTypeComments, attempt).empty()) {
+    if (!special_cells(lines, excel::xlCellTypeComments).empty()) {
         clauses.emplace_back("its cells hold comments");
     }
-    if (cuts_validations(lines, way, attempt)) clauses.emplace_back("its cells hold data validations");
+    if (cuts_validations(lines, way)) clauses.emplace_back("its cells hold data validations");
     attempt([&] {
         const excel::ListObjects tables = sheet.ListObjects();
         const std::int32_t count = tables.Count();

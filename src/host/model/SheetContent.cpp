@@ -15,8 +15,10 @@ namespace {
 // Beyond this many forgotten results nobody waits for one of them.
 constexpr std::size_t most_results = 200'000;
 
-std::uint64_t key_of(Position at) {
-    return static_cast<std::uint64_t>(at.row) << 32U | static_cast<std::uint32_t>(at.column);
+// A place, and the formula that stood there.
+std::uint64_t key_of(Position at, std::string_view formula) {
+    const auto place = static_cast<std::uint64_t>(at.row) << 32U | static_cast<std::uint32_t>(at.column);
+    return place ^ (std::hash<std::string_view>{}(formula)*0x9E3779B97F4A7C15U);
 }
 
 // What a formula says in one of its cells.
@@ -126,13 +128,17 @@ void Sheet::remember_result(const Cell& cell, Position at) {
     if (cell.kind == CellKind::Blank || results_.size() >= most_results) return;
     const bool in_array =
         std::ranges::any_of(arrays_, [&](std::uint32_t index) { return formulas_[index].reach.contains(at); });
-    if (cell.formula != 0 || in_array) results_.insert_or_assign(key_of(at), cell);
+    if (cell.formula == 0 && !in_array) return;
+    const std::string formula = cell.formula == 0 ? std::string() : text_of(formulas_[cell.formula - 1], at);
+    results_.insert_or_assign(key_of(at, formula), cell);
 }
 
 void Sheet::show_result_again(Position at) {
-    const auto known = results_.find(key_of(at));
     Cell* cell = column_or_new(at.column).find(at.row);
-    if (known == results_.end() || !cell) return;
+    if (!cell) return;
+    const std::string formula = cell->formula == 0 ? std::string() : text_of(formulas_[cell->formula - 1], at);
+    const auto known = results_.find(key_of(at, formula));
+    if (known == results_.end()) return;
     Cell shown = known->second;
     shown.style = cell->style;
     shown.formula = cell->formula;
@@ -237,13 +243,9 @@ void Sheet::set_formula(Position at, std::string text) {
     formula.text = std::move(text);
     formula.anchor = at;
     formula.reach = Area::cell(at);
-    const std::string& entered = formula.text;
-    const auto left = results_.find(key_of(at));
-    const bool comes_back = left != results_.end() && left->second.formula != 0 &&
-                            text_of(formulas_[left->second.formula - 1], at) == entered;
     const std::uint32_t number = add_loaded_formula(std::move(formula));
     cell_for_content(at).formula = number;
-    if (comes_back) show_result_again(at);
+    show_result_again(at);
 }
 
 void Sheet::set_array_formula(const Area& reach, std::string text) {
@@ -254,12 +256,7 @@ void Sheet::set_array_formula(const Area& reach, std::string text) {
     formula.kind = Formula::Kind::Array;
     formula.anchor = reach.top_left();
     formula.reach = reach;
-    const auto left = results_.find(key_of(reach.top_left()));
-    bool comes_back = left != results_.end() && left->second.formula != 0;
-    if (comes_back) {
-        const Formula& before = formulas_[left->second.formula - 1];
-        comes_back = before.kind == Formula::Kind::Array && before.reach == reach && before.text == formula.text;
-    }
+    const bool comes_back = results_.contains(key_of(reach.top_left(), formula.text));
     const std::uint32_t number = add_loaded_formula(std::move(formula));
     cell_for_content(reach.top_left()).formula = number;
     if (!comes_back) return;

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <map>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "formula/SharedEdit.h"
@@ -11,6 +12,11 @@ namespace kestrune::host {
 namespace {
 
 constexpr Position nowhere{0, 0};
+
+// Formulas may lose what they refer to, and with it the results that undo shows again.
+bool deletes(const formula::Edit& edit) {
+    return edit.kind == formula::Edit::Kind::delete_rows || edit.kind == formula::Edit::Kind::delete_columns;
+}
 
 // What an edit makes of a formula that cells share: one formula again, or one for each form that it falls into.
 class SharedGroup {
@@ -74,7 +80,7 @@ bool Sheet::follow_in_cells(const formula::Edit& edit, bool own) {
     visit([&](Cell& cell, Position at) {
         Formula& formula = formulas_[cell.formula - 1];
         const auto place = after(at);
-        if (!place) return;
+        if (!place) return remember_result(cell, at);
         if (formula.kind == Formula::Kind::Shared) {
             auto group = groups.find(cell.formula);
             if (group == groups.end()) group = groups.try_emplace(cell.formula, formula, name_, edit).first;
@@ -84,6 +90,7 @@ bool Sheet::follow_in_cells(const formula::Edit& edit, bool own) {
         if (formula.anchor != at) return;
         std::string text = formula::adjust_for_edit(formula.text, name_, edit);
         const bool other_text = text != formula.text;
+        if (other_text && deletes(edit)) remember_result(cell, at);
         formula.text = std::move(text);
         bool other_place = false;
         if (own) {
@@ -98,6 +105,16 @@ bool Sheet::follow_in_cells(const formula::Edit& edit, bool own) {
         if (other_text || other_place) mark(cell, Cell::formula_moved);
     });
 
+    if (deletes(edit)) {
+        std::unordered_set<std::uint32_t> losing;
+        for (auto& [number, group] : groups) {
+            const Formula& formula = formulas_[number - 1];
+            if (group.forms().size() != 1 || group.text(formula.anchor) != formula.text) losing.insert(number);
+        }
+        visit([&](const Cell& cell, Position at) {
+            if (losing.contains(cell.formula)) remember_result(cell, at);
+        });
+    }
     for (auto& [number, group] : groups) {
         const Position anchor = formulas_[number - 1].anchor;
         const auto place = after(anchor);
