@@ -2,7 +2,7 @@
 _kestrune() {
     local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command=${COMP_WORDS[1]}
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W "run commands keys cell show diff prefs --help --version" -- "$word"))
+        COMPREPLY=($(compgen -W "run commands keys cell trace show diff prefs --help --version" -- "$word"))
         return
     fi
     case $previous in
@@ -24,6 +24,7 @@ _kestrune() {
                     *) COMPREPLY=($(compgen -W "--prefs --help" -- "$word")) ;;
                 esac ;;
             commands) COMPREPLY=($(compgen -W "--json --html --help" -- "$word")) ;;
+            trace) COMPREPLY=($(compgen -W "--precedents --dependents --depth --json --help" -- "$word")) ;;
             cell | diff | keys) COMPREPLY=($(compgen -W "--json --help" -- "$word")) ;;
         esac
         return

@@ -15,6 +15,7 @@
 #include "cli/prefs/PrefsCommand.h"
 #include "cli/run/RunCommand.h"
 #include "cli/show/ShowCommand.h"
+#include "cli/trace/TraceCommand.h"
 #include "host/xlsx/PackageError.h"
 
 namespace kestrune::cli {
@@ -29,6 +30,8 @@ Examples:
       Lists the 103 commands.
   kestrune cell model.xlsx Inputs!C5 --json
       Says everything about a cell.
+  kestrune trace model.xlsx Inputs!C5 --dependents --depth 3
+      Lists what is worked out from a cell, three levels far.
   kestrune show model.xlsx --html model.html
       Draws the workbook as a page.
   kestrune diff model.xlsx out.xlsx
@@ -127,6 +130,22 @@ void add_show(CLI::App& app, ShowOptions& options) {
     command->callback([&options] { show(options); });
 }
 
+void add_trace(CLI::App& app, TraceOptions& options) {
+    CLI::App* command = app.add_subcommand("trace", "List what a cell refers to, or what refers to it");
+    command->add_option("WORKBOOK", options.workbook, "The .xlsx or .xlsm file to open")->required();
+    command->add_option("CELL", options.cell, "The cell: Inputs!C5 or a defined name")->required();
+    auto* precedents =
+        command->add_flag("--precedents", options.precedents, "What it refers to; unless told otherwise");
+    command->add_flag("--dependents", options.dependents, "The cells of all sheets that refer to it")
+        ->excludes(precedents);
+    command->add_option("--depth", options.depth, "So many levels; 0 follows everything to its end")
+        ->check(CLI::NonNegativeNumber)
+        ->type_name("N")
+        ->capture_default_str();
+    command->add_flag("--json", options.json, "One JSON object a place");
+    command->callback([&options] { trace(options); });
+}
+
 void add_diff(CLI::App& app, DiffOptions& options) {
     CLI::App* command = app.add_subcommand("diff", "List what changed between two workbooks");
     command->add_option("A", options.before, "The workbook before")->required();
@@ -174,6 +193,7 @@ int run_program(int argc, char** argv) {
     CellOptions cell_options;
     ShowOptions show_options;
     DiffOptions diff_options;
+    TraceOptions trace_options;
     CommandsOptions commands_options;
     KeysOptions keys_options;
     PrefsOptions prefs_options;
@@ -181,6 +201,7 @@ int run_program(int argc, char** argv) {
     add_commands(app, commands_options);
     add_keys(app, keys_options);
     add_cell(app, cell_options);
+    add_trace(app, trace_options);
     add_show(app, show_options);
     add_diff(app, diff_options);
     add_prefs(app, prefs_options);

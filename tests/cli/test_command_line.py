@@ -163,6 +163,64 @@ class Running(CommandLineTest):
         self.assertIn("-1", result.stderr)
 
 
+class Tracing(CommandLineTest):
+    def setUp(self):
+        super().setUp()
+        book = openpyxl.load_workbook(self.book)
+        model, other = book["Model"], book.create_sheet("P&L")
+        for address, formula in {
+                "F2": "=F1*2+F1+Inputs", "F3": "=F2+'P&L'!A1", "F4": "=SUM(F:F)", "F5": "=G5", "G5": "=F5+1",
+                "H1": "=[Rates.xlsx]FX!$A$1+A1", "H2": '="F1"&#REF!', "H3": "=1+\n2+A1", "C5": "=F1"}.items():
+            model[address] = formula
+        other["A1"], other["A2"] = "=Model!F1", "=A1/Model!F1+Missing!A1"
+        book.save(self.book)
+
+    def lines(self, *arguments):
+        return self.run_ok("trace", self.book, *arguments).stdout.splitlines()
+
+    def test_prints_the_tree_as_deep_as_asked_for(self):
+        for arguments, lines in [
+            (("A1",), ["Model!A1"]),
+            (("F1",), ["Model!F1: =SUM(A1:A5)", "  Model!A1:A5"]),
+            (("H2",), ['Model!H2: ="F1"&#REF!']),
+            (("H3",), ["Model!H3: =1+ 2+A1", "  Model!A1"]),
+            (("H1", "--depth", "0"), ["Model!H1: =[Rates.xlsx]FX!$A$1+A1",
+                                        "  '[Rates.xlsx]FX'!A1 [not open]", "  Model!A1"]),
+            (("'P&L'!A2",), ["'P&L'!A2: =A1/Model!F1+Missing!A1", "  'P&L'!A1: =Model!F1", "  Model!F1: =SUM(A1:A5)"]),
+            (("F3", "--precedents", "--depth", "2"),
+             ["Model!F3: =F2+'P&L'!A1", "  Model!F2: =F1*2+F1+Inputs", "    Model!F1: =SUM(A1:A5)",
+              "    Model!B2:C3 (Inputs)", "  'P&L'!A1: =Model!F1", "    Model!F1: =SUM(A1:A5)"]),
+            (("F3", "--depth", "0"),
+             ["Model!F3: =F2+'P&L'!A1", "  Model!F2: =F1*2+F1+Inputs", "    Model!F1: =SUM(A1:A5)", "      Model!A1:A5",
+              "    Model!B2:C3 (Inputs)", "  'P&L'!A1: =Model!F1",
+              "    Model!F1: =SUM(A1:A5) [followed elsewhere]"]),
+            (("F5", "--depth", "0"), ["Model!F5: =G5", "  Model!G5: =F5+1", "    Model!F5: =G5 [circular]"]),
+            (("G5", "--dependents", "--depth", "2"),
+             ["Model!G5: =F5+1", "  Model!F5: =G5", "    Model!F4: =SUM(F:F)", "    Model!G5: =F5+1 [circular]"]),
+            (("F4", "--depth", "2"),
+             ["Model!F4: =SUM(F:F)", "  Model!F:F", "    Model!F1: =SUM(A1:A5)", "    Model!F2: =F1*2+F1+Inputs",
+              "    Model!F3: =F2+'P&L'!A1", "    Model!F4: =SUM(F:F) [circular]", "    Model!F5: =G5"]),
+            (("F1", "--dependents"),
+             ["Model!F1: =SUM(A1:A5)", "  Model!F2: =F1*2+F1+Inputs", "  Model!F4: =SUM(F:F)", "  Model!C5: =F1",
+              "  'P&L'!A1: =Model!F1", "  'P&L'!A2: =A1/Model!F1+Missing!A1"]),
+            (("B2", "--dependents"), ["Model!B2", "  Model!F2: =F1*2+F1+Inputs [through Inputs]"]),
+        ]:
+            self.assertEqual(self.lines(*arguments), lines, arguments)
+
+    def test_tells_the_words_of_the_references_as_json(self):
+        tree = json.loads(self.run_ok("trace", self.book, "F2", "--depth", "2", "--json").stdout)
+        self.assertEqual([(row["level"], row["address"], row["text"], row["position"], row["length"], row["through"])
+                          for row in tree],
+                         [(0, "$F$2", "", 0, 0, ""), (1, "$F$1", "F1", 2, 2, ""), (2, "$A$1:$A$5", "A1:A5", 6, 5, ""),
+                          (1, "$B$2:$C$3", "Inputs", 10, 6, "Inputs")])
+        self.assertEqual([row["formula"] for row in tree], ["=F1*2+F1+Inputs", "=SUM(A1:A5)", None, None])
+        rates = json.loads(self.run_ok("trace", self.book, "H1", "--json").stdout)[1]
+        self.assertEqual((rates["workbook"], rates["sheet"], rates["open"]), ("Rates.xlsx", "FX", False))
+        uses = json.loads(self.run_ok("trace", self.book, "F5", "--dependents", "--json").stdout)[1:]
+        self.assertEqual([(row["address"], row["text"], row["position"]) for row in uses],
+                         [("$F$4", "F:F", 6), ("$G$5", "F5", 2)])
+
+
 class HotKeys(CommandLineTest):
     def keys(self, *arguments):
         return json.loads(self.run_ok("keys", *arguments, "--json").stdout)
@@ -254,6 +312,9 @@ class Refusing(CommandLineTest):
             ("maybe", "run", self.book, "--answer", "maybe", "20"),
             ("--in-place", "run", self.book, "--in-place", "-o", "x.xlsx"),
             (".xlsx", "run", self.book, "-o", self.folder / "out.xlsm", "20"),
+            ("--precedents", "trace", self.book, "F1", "--precedents", "--dependents"),
+            ("--depth", "trace", self.book, "F1", "--depth", "-1"),
+            ("CELL", "trace", self.book),
         ]:
             self.refused(2, needle, *arguments)
 
@@ -269,6 +330,8 @@ class Refusing(CommandLineTest):
         ]:
             self.refused(1, needle, "run", self.book, "-o", out, *steps)
             self.assertFalse(out.exists(), steps)
+        self.refused(1, "'Inputs' stands for 4 cells", "trace", self.book, "Inputs")
+        self.refused(1, "there is no sheet 'Nowhere'", "trace", self.book, "Nowhere!A1")
         self.refused(1, "missing.xlsx", "run", self.folder / "missing.xlsx", "20")
         self.refused(1, "No such file", "run", self.book, "-o", self.folder / "nowhere" / "out.xlsx", "@A1", "20")
 
