@@ -1,3 +1,4 @@
+#include "brxllib/DependentIndex.h"
 #include "brxllib/LibraryInHost.h"
 
 namespace kestrune::brxllib {
@@ -38,10 +39,18 @@ struct LinksTest : LibraryInHost {
         for (const auto& link : library->precedents(cell.object())) lines.push_back(line(link));
         return lines;
     }
-    // "Sheet!Address" of each dependent.
+    // "Sheet!Address" of each dependent; of a single cell as the index tells them, too.
     [[nodiscard]] std::vector<std::string> dependents_of(const excel::Range& cell) const {
         std::vector<std::string> lines;
         for (const auto& link : library->dependents(cell.object())) lines.push_back(link.sheet + "!" + link.address);
+        if (cell.Count() > 1) return lines;
+        std::vector<std::string> indexed;
+        const excel::Worksheet sheet = cell.Worksheet();
+        DependentIndex index(application);
+        for (const auto& link : index.dependents(sheet.Parent().Name(), sheet.Name(), {cell.Row(), cell.Column()})) {
+            indexed.push_back(link.sheet + "!" + link.address);
+        }
+        EXPECT_EQ(indexed, lines);
         return lines;
     }
 };
@@ -209,6 +218,14 @@ TEST_F(LinksTest, DependentsTellTheirFormulas) {
     EXPECT_EQ(links[0].position, 8);
     EXPECT_EQ(links[0].length, 15);
     EXPECT_EQ(links[0].formula, "=1+SUM('Jan'!$B$1:$B$4)");
+}
+
+TEST_F(LinksTest, DependentsOfTheOwnSheetAndWorkbookComeFirst) {
+    at("Old", "A1", "Rates.xlsx").Formula("=[Budget.xlsx]Mar!$C$3");
+    at("Jan", "A1").Formula("=SUM(Mar!C:C)+Mar!C3");
+    at("Mar", "D1:D2").Formula("=$C$3+SUM(C1:C3)");
+    EXPECT_EQ(dependents_of(at("Mar", "C3")),
+              (std::vector<std::string>{"Mar!$D$1", "Mar!$D$2", "Jan!$A$1", "Old!$A$1"}));
 }
 
 TEST_F(LinksTest, ThousandsOfDependentsTakeAFewCalls) {

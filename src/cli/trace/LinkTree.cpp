@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <set>
 #include <tuple>
 #include <unordered_map>
@@ -10,8 +11,11 @@
 #include "automation/Conversion.h"
 #include "automation/ResumeNext.h"
 #include "automation/Text.h"
+#include "brxllib/DependentIndex.h"
+#include "brxllib/FormulaScan.h"
 #include "excel/Constants.h"
 #include "excel/Worksheet.h"
+#include "formula/A1.h"
 
 namespace kestrune::cli {
 namespace {
@@ -80,7 +84,7 @@ class Tree {
     }
 
     [[nodiscard]] std::string formula_of(const TreeLine& line, std::int32_t level) {
-        if (level > 0 && towards_ == Towards::dependents) return line.link.formula;
+        if (level > 0 && (towards_ == Towards::dependents || line.link.text.empty())) return line.link.formula;
         if (!is_cell(line.link)) return {};
         const excel::Range cell = range_of(line);
         return cell && has_formula(cell) ? automation::to_text(cell.Formula()) : std::string();
@@ -113,12 +117,18 @@ class Tree {
 
     // What hangs directly on a line.
     [[nodiscard]] std::vector<Link> next(const TreeLine& line) {
+        if (towards_ == Towards::dependents) {
+            if (!index_) index_.emplace(application_);
+            formula::Reference cell;
+            if (formula::match_a1(line.link.address, cell) == 0) return {};
+            return index_->dependents(line.link.workbook, line.link.sheet, formula::area_of(cell).top_left());
+        }
         const excel::Range range = range_of(line);
         if (!range) return {};
-        if (towards_ == Towards::dependents) return brxllib::dependents(application_, range);
         return is_cell(line.link) ? brxllib::precedents(application_, range) : formula_cells(line.link, range);
     }
 
+    // Each with its own formula, which is asked for a block at a time.
     [[nodiscard]] static std::vector<Link> formula_cells(const Link& place, const excel::Range& range) {
         std::vector<Link> cells;
         const automation::Trace nobody;  // a range without formulas is an error to Excel
@@ -127,16 +137,19 @@ class Tree {
             const std::int32_t count = areas.Count();
             for (std::int32_t i = 1; i <= count; ++i) {
                 const excel::Range area = areas.Item(i);
-                const std::int32_t rows = area.Rows().Count();
-                const std::int32_t columns = area.Columns().Count();
-                for (std::int32_t row = 1; row <= rows; ++row) {
-                    for (std::int32_t column = 1; column <= columns; ++column) {
-                        Link& link = cells.emplace_back();
-                        link.workbook = place.workbook;
-                        link.folder = place.folder;
-                        link.sheet = place.sheet;
-                        link.address = area.Cells(row, column).Address();
-                    }
+                const formula::Area block = brxllib::area_of(area);
+                const automation::Value formulas = area.Formula();
+                for (std::int32_t k = 0; k < block.cells(); ++k) {
+                    const automation::Array* texts = formulas.array();
+                    Link& link = cells.emplace_back();
+                    link.workbook = place.workbook;
+                    link.folder = place.folder;
+                    link.sheet = place.sheet;
+                    const formula::Position at{block.first_row + k / block.columns(),
+                                               block.first_column + k % block.columns()};
+                    link.address = formula::cell_text(at, {true, true});
+                    link.formula =
+                        automation::to_text(texts ? texts->elements()[static_cast<std::size_t>(k)] : formulas);
                 }
             }
         });
@@ -163,6 +176,7 @@ class Tree {
     std::int32_t depth_;
     std::vector<std::string> open_;
     std::map<std::pair<std::string, std::string>, excel::Worksheet> sheets_;  // by workbook and name
+    std::optional<brxllib::DependentIndex> index_;
     std::vector<Node> nodes_;
     std::unordered_map<std::string, std::size_t> followed_;  // by place
 };
