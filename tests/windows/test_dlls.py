@@ -14,7 +14,10 @@ FOLDER, BITS, VERSION, IDL = Path(sys.argv[1]), int(sys.argv[2]), sys.argv[3], P
 
 EXPORTS = ["DllCanUnloadNow", "DllGetClassObject", "DllInstall", "DllRegisterServer", "DllUnregisterServer"]
 # What every Windows since 7 has.
-SYSTEM = {"advapi32", "comdlg32", "gdi32", "kernel32", "msvcrt", "ole32", "oleaut32", "shell32", "shlwapi", "user32", "winhttp"}
+SYSTEM = {
+    *("advapi32", "comctl32", "comdlg32", "gdi32", "kernel32", "msvcrt"),
+    *("ole32", "oleaut32", "shell32", "shlwapi", "user32", "winhttp"),
+}
 
 
 class Image:
