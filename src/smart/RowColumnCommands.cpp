@@ -34,10 +34,13 @@ struct Row {
     bool (*record)(const core::diBRXLLib& library, const Range& selection) = nullptr;
 };
 
+// Where all rows (or columns) are selected, as many more would push everything off the sheet: none come.
 bool rows_come(const core::diBRXLLib& library, const Range& selection) {
+    if (selection.EntireRow().Rows().Count() == selection.Worksheet().Cells().Rows().Count()) return false;
     return library.record_insertion(selection.EntireRow().object(), true);
 }
 bool columns_come(const core::diBRXLLib& library, const Range& selection) {
+    if (selection.EntireColumn().Columns().Count() == selection.Worksheet().Cells().Columns().Count()) return false;
     return library.record_insertion(selection.EntireColumn().object(), false);
 }
 bool rows_go(const core::diBRXLLib& library, const Range& selection) {

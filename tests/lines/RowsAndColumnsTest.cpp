@@ -89,6 +89,17 @@ TEST(RowsAndColumns, GivesBackWhatCommandsOnRowsAndColumnsDid) {
     }
 }
 
+// As many rows as the sheet has would push everything off it.
+TEST(RowsAndColumns, LetsNothingInWhereEverythingIsSelected) {
+    for (const auto& [selection, request] :
+         {std::pair{"1:4", "64"}, {"B:C", "63"}, {"A:XFD", "63"}, {"1:1048576", "64"}}) {
+        ModelToCut fresh;
+        fresh.press(selection, request);
+        EXPECT_THAT(fresh.changes(), IsEmpty()) << selection;
+        EXPECT_THAT(fresh.history("UndoHistory"), IsEmpty()) << selection;
+    }
+}
+
 struct ByHand {
     const char* selection;
     Requests requests;
