@@ -2,6 +2,9 @@
 
 #include <objbase.h>
 
+#include <set>
+#include <tuple>
+
 #include "automation/Conversion.h"
 #include "automation/Text.h"
 #include "excel/Application.h"
@@ -11,6 +14,7 @@
 #include "windows/com/ComClasses.h"
 #include "windows/com/ComPtr.h"
 #include "windows/com/Unicode.h"
+#include "windows/dll/BoxWatcher.h"
 #include "windows/dll/Dll.h"
 #include "windows/dll/KnownUser.h"
 
@@ -134,6 +138,45 @@ TEST_F(AddInInOwnHost, RunsTheMacrosOfTheExamplesWorkbook) {
     application = nullptr;
     expect_released();
     EXPECT_TRUE(excel.expired()) << "nobody holds Excel any more";
+}
+
+TEST_F(AddInInOwnHost, RunsEveryCommand) {
+    // Their dialogs stay for a person, or for tests of the screen.
+    const std::set<std::int32_t> with_dialogs{0, 1, 3, 4, 5, 6, 7, 8};
+    constexpr std::int32_t commands = 103;
+    BoxWatcher watcher(dll_path("command").replace_extension(".bmp"));
+    ObjectRef application = host::make_application(*session);
+    start(application);
+    {
+        const excel::Application excel(application);
+        const auto cells = [&](const char* address) {
+            return excel.ActiveWorkbook().Worksheets().Item(1).Range(address);
+        };
+        const auto state = [&] {
+            return std::tuple(excel.ScreenUpdating(), excel.Calculation(),
+                              automation::to_integer(get(*application, "CutCopyMode")));
+        };
+        for (const bool on_protected_sheet : {false, true}) {
+            session->active()->model->sheet("Model")->protection().on = on_protected_sheet;
+            for (std::int32_t number = 0; number < commands; ++number) {
+                if (with_dialogs.contains(number)) continue;
+                SCOPED_TRACE(std::to_string(number) + (on_protected_sheet ? " on a protected sheet" : ""));
+                if (!on_protected_sheet) {
+                    cells("B1:E9").Formula("=A1*1.05");
+                    cells("A1:A9").Value(2024);
+                }
+                cells("A1:E9").Select();
+                const auto before = state();
+                Value answer;
+                EXPECT_NO_THROW(answer = run(number));
+                EXPECT_EQ(answer, Value(true));
+                EXPECT_EQ(state(), before);
+            }
+        }
+    }
+    EXPECT_GT(watcher.stop().size(), 0U) << "some ask, or say what they did";
+    application = nullptr;
+    expect_released();
 }
 
 // Stands before a library and its hot keys, and keeps what is registered to be called back. Its other parts are its
