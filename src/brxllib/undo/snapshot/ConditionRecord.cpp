@@ -1,6 +1,7 @@
 #include "brxllib/undo/snapshot/ConditionRecord.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <span>
 
@@ -26,6 +27,17 @@ Areas without(Areas areas, const Areas& others) {
         areas = std::move(left);
     }
     return areas;
+}
+
+// Areas as they are outside some cells, and as others are in these.
+Areas replaced(const Areas& areas, const Areas& others, const Areas& cells) {
+    Areas all = without(areas, cells);
+    for (const Area& other : others) {
+        for (const Area& cell : cells) {
+            if (const auto common = other.intersection(cell)) all.push_back(*common);
+        }
+    }
+    return all;
 }
 
 bool touch(const Areas& one, const Areas& other) {
@@ -95,23 +107,30 @@ void ConditionRecord::restore(const excel::Range& range, Restoring& restoring) c
         present.push_back({std::move(condition), std::move(state)});
     }
 
-    // Each rule finds itself again: first where nothing became of it, then where it lost cells.
+    // Each rule finds itself again: where nothing became of it, where it lost cells, and where it holds for others,
+    // too, which it keeps outside these cells.
+    enum class Found : std::uint8_t { InSameCells, InSomeOfThem, InOthersToo };
     std::vector<std::optional<FormatCondition>> found(rules_.size());
-    for (const bool in_same_cells : {true, false}) {
+    for (const Found where : {Found::InSameCells, Found::InSomeOfThem, Found::InOthersToo}) {
         for (std::size_t i = 0; i < rules_.size(); ++i) {
             if (found[i]) continue;
+            const Areas& wanted = rules_[i].applies_to;
             const auto same = std::ranges::find_if(present, [&](const Present& one) {
+                const Areas& cells = one.state.applies_to;
                 return !one.taken && rules_[i].same_rule(one.state) &&
-                       (in_same_cells ? rules_[i].applies_to == one.state.applies_to
-                                      : without(one.state.applies_to, rules_[i].applies_to).empty());
+                       (where == Found::InSameCells    ? wanted == cells
+                        : where == Found::InSomeOfThem ? without(cells, wanted).empty()
+                                                       : touch(cells, wanted));
             });
             if (same == present.end()) continue;
             same->taken = true;
             found[i] = same->condition;
-            if (in_same_cells) continue;
-            restoring(address_text(rules_[i].applies_to), "FormatConditions", [&] {
-                found[i]->ModifyAppliesToRange(
-                    range_of(restoring.application(), restoring.sheet(), rules_[i].applies_to));
+            if (where == Found::InSameCells) continue;
+            const Areas cells = where == Found::InSomeOfThem ? wanted : replaced(same->state.applies_to, wanted, own);
+            if (without(same->state.applies_to, cells).empty() && without(cells, same->state.applies_to).empty())
+                continue;
+            restoring(address_text(wanted), "FormatConditions", [&] {
+                found[i]->ModifyAppliesToRange(range_of(restoring.application(), restoring.sheet(), cells));
             });
         }
     }
