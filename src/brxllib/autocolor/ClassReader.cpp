@@ -68,6 +68,18 @@ void ClassReader::mark_links(const excel::Range& range, ClassBlock& block) const
     }
 }
 
+excel::Range range_of(const excel::Application& application, const excel::Worksheet& sheet,
+                      std::span<const Area> areas) {
+    excel::Range range;
+    while (!areas.empty()) {
+        const AddressText address = address_of(areas);
+        const excel::Range more = sheet.Range(address.text);
+        range = range ? application.Union(range, more) : more;
+        areas = areas.subspan(address.areas);
+    }
+    return range;
+}
+
 std::vector<Area> areas_of(const excel::Range& range) {
     const std::string address = range.Address();
     constexpr std::size_t longest_area = 26;  // "$XFD$1048576:$XFD$1048576", and a comma

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 #include "automation/ResumeNext.h"
 #include "brxllib/autocolor/CellClass.h"
+#include "excel/Application.h"
 #include "excel/Worksheet.h"
 #include "formula/Area.h"
 
@@ -42,5 +44,8 @@ class ClassReader {
 // The rectangles of a range, in its order. Excel cuts the address of a range of many areas off, so a long one is read
 // area by area.
 [[nodiscard]] std::vector<formula::Area> areas_of(const excel::Range& range);
+// The range of many areas, whose address may be longer than Excel takes; nothing of none.
+[[nodiscard]] excel::Range range_of(const excel::Application& application, const excel::Worksheet& sheet,
+                                    std::span<const formula::Area> areas);
 
 }  // namespace kestrune::brxllib

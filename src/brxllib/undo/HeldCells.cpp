@@ -1,12 +1,10 @@
 #include "brxllib/undo/HeldCells.h"
 
 #include <algorithm>
-#include <span>
 #include <utility>
 
 #include "automation/AutomationError.h"
 #include "brxllib/autocolor/ClassReader.h"
-#include "brxllib/autocolor/Rectangles.h"
 
 namespace kestrune::brxllib::undo {
 
@@ -23,17 +21,7 @@ std::optional<std::vector<Area>> HeldCells::areas() const {
     }
 }
 
-void HeldCells::hold(const std::vector<Area>& areas) {
-    std::span<const Area> left(areas);
-    excel::Range range;
-    while (!left.empty()) {
-        const AddressText address = address_of(left);
-        const excel::Range more = sheet_.Range(address.text);
-        range = range ? application_.Union(range, more) : more;
-        left = left.subspan(address.areas);
-    }
-    range_ = range;
-}
+void HeldCells::hold(const std::vector<Area>& areas) { range_ = range_of(application_, sheet_, areas); }
 
 void LostCells::look(const HeldCellsRef& cells) {
     if (auto areas = cells->areas()) lost_.push_back({cells, std::move(*areas)});

@@ -46,19 +46,6 @@ bool touch(const Areas& one, const Areas& other) {
     });
 }
 
-// A range of many areas, whose address may be longer than Excel takes.
-excel::Range range_of(const excel::Application& application, const excel::Worksheet& sheet,
-                      std::span<const Area> areas) {
-    excel::Range range;
-    while (!areas.empty()) {
-        const AddressText address = address_of(areas);
-        const excel::Range more = sheet.Range(address.text);
-        range = range ? application.Union(range, more) : more;
-        areas = areas.subspan(address.areas);
-    }
-    return range;
-}
-
 // The active cell when it lies on a sheet.
 excel::Range active_cell_of(const excel::Application& application, const excel::Worksheet& sheet) {
     const excel::Range cell = application.ActiveCell();
