@@ -1,5 +1,8 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string_view>
@@ -61,6 +64,21 @@ struct ControlDesign {
     std::int32_t min = 0;                          // of spin buttons
     std::int32_t max = 100;
 };
+
+// The last two of most dialogs.
+inline constexpr std::array<ControlDesign, 2> ok_and_cancel{{
+    {.name = "btnOK", .kind = Kind::Push, .caption = "OK", .role = Role::Default},
+    {.name = "btnCancel", .kind = Kind::Push, .caption = "Cancel", .place = Place::Beside, .role = Role::Cancel},
+}};
+
+// Parts of a form that it shares with others, one after the other.
+template <std::size_t... sizes>
+constexpr auto joined(const std::array<ControlDesign, sizes>&... parts) {
+    std::array<ControlDesign, (sizes + ...)> all{};
+    auto end = all.begin();
+    ((end = std::copy(parts.begin(), parts.end(), end)), ...);
+    return all;
+}
 
 // A form as it is until code changes it: its controls in tab order, containers before what they hold.
 struct FormDesign {

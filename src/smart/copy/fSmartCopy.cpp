@@ -20,10 +20,9 @@ using forms::ControlDesign;
 using forms::Event;
 using forms::Kind;
 using forms::Place;
-using forms::Role;
 
 // Captions and tips are those of the direction, below.
-constexpr auto controls = std::to_array<ControlDesign>({
+constexpr auto own_controls = std::to_array<ControlDesign>({
     {.name = "fraScan", .kind = Kind::Frame},
     {.name = "optContiguous", .kind = Kind::Option, .accelerator = 'g', .in = "fraScan"},
     {.name = "optIntervals", .kind = Kind::Option, .accelerator = 'p', .in = "fraScan"},
@@ -45,9 +44,9 @@ constexpr auto controls = std::to_array<ControlDesign>({
     {.name = "ckbFormat", .kind = Kind::Check, .accelerator = 'n'},
     {.name = "ckbAdjust", .kind = Kind::Check, .accelerator = 'j'},
     {.name = "ckbShow", .kind = Kind::Check, .accelerator = 'S'},
-    {.name = "btnOK", .kind = Kind::Push, .caption = "OK", .role = Role::Default},
-    {.name = "btnCancel", .kind = Kind::Push, .caption = "Cancel", .place = Place::Beside, .role = Role::Cancel},
 });
+
+constexpr auto controls = forms::joined(own_controls, forms::ok_and_cancel);
 
 constexpr forms::FormDesign form_design{
     .name = "fSmartCopy", .caption = "BR Kestrune -- Smart Copy", .controls = controls};

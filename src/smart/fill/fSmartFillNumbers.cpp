@@ -19,9 +19,8 @@ using forms::ControlDesign;
 using forms::Event;
 using forms::Kind;
 using forms::Place;
-using forms::Role;
 
-constexpr auto controls = std::to_array<ControlDesign>({
+constexpr auto own_controls = std::to_array<ControlDesign>({
     {.name = "fraType", .kind = Kind::Frame, .caption = "Show as:"},
     {.name = "optNumber", .kind = Kind::Option, .caption = "Numbers", .accelerator = 'N', .in = "fraType"},
     {.name = "optCurrency",
@@ -42,26 +41,16 @@ constexpr auto controls = std::to_array<ControlDesign>({
     {.name = "txtEnd", .kind = Kind::Text, .place = Place::Column, .width = 90},
     {.name = "lblInterval", .caption = "Interval:", .accelerator = 'I'},
     {.name = "txtInterval", .kind = Kind::Text, .place = Place::Column, .width = 90},
-    {.name = "lblSpacing", .caption = "Cells for each step:", .accelerator = 'C'},
-    {.name = "txtSpacing", .kind = Kind::Text, .place = Place::Column, .width = 48},
-    {.name = "spnSpacing", .kind = Kind::Spin, .place = Place::Attached, .min = 1, .max = 1'048'575},
-    {.name = "lblStyle", .caption = "Style:", .accelerator = 't'},
-    {.name = "cmbStyle", .kind = Kind::Combo, .place = Place::Column, .width = 200},
-    {.name = "fraDirection", .kind = Kind::Frame, .caption = "Fill:"},
-    {.name = "optAcross", .kind = Kind::Option, .caption = "Across", .accelerator = 'A', .in = "fraDirection"},
-    {.name = "optDown",
-     .kind = Kind::Option,
-     .caption = "Down",
-     .accelerator = 'D',
-     .in = "fraDirection",
-     .place = Place::Beside},
+});
+
+constexpr std::array<ControlDesign, 1> show_again{{
     {.name = "ckbShow",
      .kind = Kind::Check,
      .caption = "Show form next time you run 'Smart Fill Numbers'",
      .accelerator = 'x'},
-    {.name = "btnOK", .kind = Kind::Push, .caption = "OK", .role = Role::Default},
-    {.name = "btnCancel", .kind = Kind::Push, .caption = "Cancel", .place = Place::Beside, .role = Role::Cancel},
-});
+}};
+
+constexpr auto controls = forms::joined(own_controls, fill_controls, show_again, forms::ok_and_cancel);
 
 constexpr forms::FormDesign form_design{
     .name = "fSmartFillNumbers", .caption = "Brannoch Kestrune -- Smart Fill Numbers", .controls = controls};

@@ -17,9 +17,8 @@ using forms::ControlDesign;
 using forms::Event;
 using forms::Kind;
 using forms::Place;
-using forms::Role;
 
-constexpr auto controls = std::to_array<ControlDesign>({
+constexpr auto own_controls = std::to_array<ControlDesign>({
     {.name = "lblGroup", .caption = "Cells that go together:", .accelerator = 'C'},
     {.name = "txtFmla",
      .kind = Kind::Text,
@@ -34,9 +33,9 @@ constexpr auto controls = std::to_array<ControlDesign>({
      .tip = "How far one step leads in the cells that are referred to",
      .width = 48},
     {.name = "ckbShow", .kind = Kind::Check, .accelerator = 'S'},
-    {.name = "btnOK", .kind = Kind::Push, .caption = "OK", .role = Role::Default},
-    {.name = "btnCancel", .kind = Kind::Push, .caption = "Cancel", .place = Place::Beside, .role = Role::Cancel},
 });
+
+constexpr auto controls = forms::joined(own_controls, forms::ok_and_cancel);
 
 constexpr forms::FormDesign form_design{
     .name = "fSmartFmlaSpacing", .caption = "BR Kestrune -- Smart Formula Spacing", .controls = controls};
