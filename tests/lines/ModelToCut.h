@@ -82,6 +82,7 @@ struct ModelToCut : styles::AddInInHost {
         at("8:8").Group();
         automation::call(*at("B2:B9").FormatConditions().object(), "Add", {excel::xlCellValue, 5, "=$B$4"});
         automation::call(*at("C5:C6").FormatConditions().object(), "Add", {excel::xlCellValue, 6, "=1"});
+        automation::call(*at("J3:J1048576").FormatConditions().object(), "Add", {excel::xlCellValue, 5, "=7"});
         const excel::Names names = application.ActiveWorkbook().Names();
         names.Add("Whole", "=Sheet1!$B$2:$B$9");
         names.Add("Gone", "=Sheet1!$B$4:$C$5");

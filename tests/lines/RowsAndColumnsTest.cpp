@@ -89,6 +89,25 @@ TEST(RowsAndColumns, GivesBackWhatCommandsOnRowsAndColumnsDid) {
     }
 }
 
+// Formats, widths and heights at the sheet's end are gone once something came in before them, and so are the cells that
+// earlier steps speak of.
+TEST(RowsAndColumns, GivesBackWhatCameInPushedOffTheSheet) {
+    ModelToCut fresh;
+    const std::pair<const char*, const char*> presses[] = {
+        {"XFD4:XFD6", "20"}, {"XFC:XFC", "60"}, {"B4:C6", "64"}, {"A1048570:D1048575", "21"}, {"1048576:1048576", "59"},
+        {"4:6", "63"},       {"XFD:XFD", "30"}, {"A:A", "64"},   {"1048576:1048576", "63"},
+    };
+    for (const auto& [selection, request] : presses) fresh.press(selection, request);
+    const auto done = fresh.changes();
+    for (int times = 1; times <= 2; ++times) {
+        for (std::size_t i = 0; i < std::size(presses); ++i) fresh.undo();
+        EXPECT_THAT(fresh.changes(), IsEmpty()) << "undone";
+        for (std::size_t i = 0; i < std::size(presses); ++i) fresh.redo();
+        EXPECT_EQ(fresh.changes(), done) << "redone";
+    }
+    EXPECT_THAT(fresh.messages(), IsEmpty());
+}
+
 // As many rows as the sheet has would push everything off it.
 TEST(RowsAndColumns, LetsNothingInWhereEverythingIsSelected) {
     for (const auto& [selection, request] :

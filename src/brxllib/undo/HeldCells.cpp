@@ -10,6 +10,17 @@ namespace kestrune::brxllib::undo {
 
 using formula::Area;
 
+namespace {
+
+// What comes in in the middle of such cells leaves them as they are, and takes some with it when it goes.
+bool reach_end(const std::vector<Area>& areas) {
+    return std::ranges::any_of(areas, [](const Area& area) {
+        return area.last_row == formula::max_rows || area.last_column == formula::max_columns;
+    });
+}
+
+}  // namespace
+
 HeldCells::HeldCells(excel::Application application, excel::Range cells)
     : application_(std::move(application)), sheet_(cells.Worksheet()), range_(std::move(cells)) {}
 
@@ -31,7 +42,9 @@ void LostCells::settle() {
     for (Lost& lost : lost_) {
         if (const auto cells = lost.cells.lock()) lost.after = cells->areas();
     }
-    std::erase_if(lost_, [](const Lost& lost) { return lost.cells.expired() || lost.after == lost.before; });
+    std::erase_if(lost_, [](const Lost& lost) {
+        return lost.cells.expired() || (lost.after == lost.before && !reach_end(lost.before));
+    });
 }
 
 void LostCells::keep_untouched() {

@@ -38,7 +38,7 @@ class LostCells {
   public:
     // Looks at cells before the rows or columns go.
     void look(const HeldCellsRef& cells);
-    // They have gone: keeps those cells that are no longer what they were.
+    // They have gone: keeps those cells that are no longer what they were, or will not be once others come back.
     void settle();
     // They are about to come back: lets go of cells that something else has happened to since.
     void keep_untouched();

@@ -1,19 +1,28 @@
 #include "brxllib/undo/InsertedLines.h"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 #include <string>
 #include <utility>
 
+#include "automation/AutomationError.h"
+#include "automation/ResumeNext.h"
+#include "brxllib/autocolor/ClassReader.h"
 #include "brxllib/undo/Lines.h"
 #include "excel/Constants.h"
 
 namespace kestrune::brxllib::undo {
 
+using automation::AutomationError;
 using automation::Value;
 
-InsertedLines::InsertedLines(excel::Application application, const excel::Range& before, bool rows)
+InsertedLines::InsertedLines(excel::Application application, const excel::Range& before, bool rows,
+                             std::size_t most_bytes, const automation::Trace& trace)
     : application_(std::move(application)),
       rows_(rows),
+      most_bytes_(most_bytes),
+      trace_(trace),
       areas_(lines_of(before, rows)),
       origin_(std::make_shared<HeldCells>(application_, before)) {
     // A range of our own: that of a selection may be the selection itself.
@@ -23,14 +32,42 @@ InsertedLines::InsertedLines(excel::Application application, const excel::Range&
         places_.push_back(moved(area, in_front, rows));
         in_front += count_of(area, rows);
     }
+    end_ = rows ? formula::Area{formula::max_rows - in_front + 1, 1, formula::max_rows, formula::max_columns}
+                : formula::Area{1, formula::max_columns - in_front + 1, formula::max_rows, formula::max_columns};
+}
+
+std::unique_ptr<InsertedLines> InsertedLines::take(const excel::Application& application, const excel::Range& before,
+                                                   bool rows, std::size_t most_bytes, const automation::Trace& trace) {
+    std::unique_ptr<InsertedLines> change(new InsertedLines(application, before, rows, most_bytes, trace));
+    return change->record_end() ? std::move(change) : nullptr;
+}
+
+bool InsertedLines::record_end() {
+    const excel::Worksheet& sheet = origin_->sheet();
+    const excel::Range end = range_of(application_, sheet, std::span(&end_, 1));
+    end_state_ = Snapshot::take(application_, end, {Aspect::Formats, rows_ ? Aspect::Rows : Aspect::Columns},
+                                most_bytes_, trace_);
+    lying_.reset();
+    lying_after_.reset();
+    if (!end_state_) return false;
+    if (end.FormatConditions().Count() == 0 && end.MergeCells() == Value(false)) return true;
+    lying_ = Snapshot::take(application_, sheet.Cells(), {Aspect::Conditions, Aspect::Merges, Aspect::Names},
+                            most_bytes_, trace_);
+    return lying_.has_value();
 }
 
 bool InsertedLines::finish() {
     if (origin_->areas() == areas_) return false;
     inserted_ = std::make_shared<HeldCells>(application_, origin_->sheet().Cells());
-    inserted_->hold(places_);
-    contents_ = contents();
+    settle();
     return true;
+}
+
+void InsertedLines::settle() {
+    inserted_->hold(places_);
+    // Tables fill new rows of their own accord; whatever else the step entered is on record beside this.
+    contents_ = contents();
+    if (lying_) lying_after_ = lying_->again(most_bytes_, trace_);
 }
 
 std::vector<Value> InsertedLines::contents() const {
@@ -61,6 +98,8 @@ std::optional<Obstacle> InsertedLines::obstacle(Direction direction) const {
         return Obstacle{"something has been entered in the " + std::string(rows_ ? "rows" : "columns") + " since",
                         false};
     }
+    if (lying_ && !(lying_after_ && lying_after_ == lying_after_->again(most_bytes_, trace_)))
+        return Obstacle{"merged areas, conditional formats or names have been changed since", true};
     return {};
 }
 
@@ -68,18 +107,31 @@ void InsertedLines::undo() {
     inserted_->range().Delete(rows_ ? excel::xlUp : excel::xlToLeft);
     // At the end of the sheet they had pushed it off.
     if (origin_->areas() != areas_) origin_->hold(areas_);
+    end_state_->held()->hold({end_});
+    std::vector<std::string> refusals = end_state_->restore(trace_);
+    if (lying_) std::ranges::move(lying_->restore(trace_), std::back_inserter(refusals));
+    if (refusals.empty()) return;
+    const automation::ResumeNext attempt(trace_);
+    attempt([&] {
+        origin_->range().Insert();
+        settle();
+    });
+    throw AutomationError(automation::hresult::excel_error, "iUndoRedo", refusals.front());
 }
 
 void InsertedLines::redo() {
+    // Others may have changed what is at the sheet's end since.
+    if (!record_end())
+        throw AutomationError(automation::hresult::excel_error, "iUndoRedo", "it changes more than undo can hold");
     origin_->range().Insert();
-    inserted_->hold(places_);
-    // Tables fill new rows of their own accord; whatever else the step entered is on record beside this.
-    contents_ = contents();
+    settle();
 }
 
 void InsertedLines::visit_cells(const VisitHeldCells& visit) const {
     visit(origin_);
     if (inserted_) visit(inserted_);
+    visit(end_state_->held());
+    if (lying_) visit(lying_->held());
 }
 
 excel::Range InsertedLines::shown(Direction direction) const {
@@ -93,6 +145,8 @@ std::size_t InsertedLines::bytes() const {
         const automation::Array* block = content.array();
         sum += sizeof(Value) * (block ? block->elements().size() : 1);
     }
+    for (const auto* snapshot : {&end_state_, &lying_, &lying_after_})
+        if (*snapshot) sum += (*snapshot)->bytes();
     return sum;
 }
 

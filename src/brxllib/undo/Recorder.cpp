@@ -137,7 +137,9 @@ std::size_t Recorder::free_bytes() const {
 
 bool Recorder::record_insertion(const excel::Range& lines, bool rows) {
     return record_lines(lines, [&](Stack& stack) {
-        stack.add(std::make_unique<InsertedLines>(library_.application, lines, rows));
+        auto change = InsertedLines::take(library_.application, lines, rows, free_bytes(), library_.trace);
+        if (!change) return give_up(too_much);
+        stack.add(std::move(change));
         return true;
     });
 }
