@@ -195,10 +195,12 @@ void SheetDiff::rows() {
         const auto note = [&](std::string_view property, const std::string& was, const std::string& is) {
             changes.add(row, row, property, was, is);
         };
-        note("RowHeight", fmt::format("{:.4g}", before_.row_height(row)),
-             fmt::format("{:.4g}", after_.row_height(row)));
-        note("Hidden", a.hidden ? "True" : "False", b.hidden ? "True" : "False");
-        note("OutlineLevel", fmt::format("{}", a.outline_level + 1), fmt::format("{}", b.outline_level + 1));
+        // There may be a million rows that are alike.
+        if (const double was = before_.row_height(row), is = after_.row_height(row); was != is)
+            note("RowHeight", fmt::format("{:.4g}", was), fmt::format("{:.4g}", is));
+        if (a.hidden != b.hidden) note("Hidden", a.hidden ? "True" : "False", b.hidden ? "True" : "False");
+        if (a.outline_level != b.outline_level)
+            note("OutlineLevel", fmt::format("{}", a.outline_level + 1), fmt::format("{}", b.outline_level + 1));
         if (a.has_style || b.has_style) {
             for (const StylePair& pair : blank_formats_of(row, columns)) tell_line_format(changes, row, row, pair);
         }
