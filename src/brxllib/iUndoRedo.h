@@ -32,8 +32,8 @@ class iUndoRedo : public automation::Served<iUndoRedo> {
     // Opens a step. Reach says which cells it changes: 1 the selection, 2 the active worksheet, 3 all worksheets of the
     // active workbook, 0 those that Record names. Aspects says what of them: 1 contents, 2 formats, 4 conditional
     // formats, 8 merges, 16 rows, 32 columns, 64 the workbook's names, 128 its custom number formats (with BeginStep
-    // only), added up. False when the step could not be undone and the person, who was asked, does not want it: then no
-    // step is open, and the command must not run.
+    // only), 256 that each cell may be filled, added up. False when the step could not be undone and the person, who
+    // was asked, does not want it: then no step is open, and the command must not run.
     bool begin_step(const std::string& name, std::int32_t reach, std::int32_t aspects);
     // Records cells that the open step is about to change. False as above; the step stays open. Fails when none is.
     bool record(const automation::ObjectRef& range, std::int32_t aspects);

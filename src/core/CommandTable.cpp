@@ -56,6 +56,7 @@ constexpr Touches formats{Reach::Selection, Aspects::Formats};
 constexpr Touches restyled{Reach::Selection, Aspects::Formats | Aspects::Conditions};
 constexpr Touches unmerged{Reach::Selection, entries | Aspects::Conditions | Aspects::Merges};
 constexpr Touches contents{Reach::Selection, entries};
+constexpr Touches filled{Reach::Selection, entries | Aspects::Filled};
 constexpr Touches separators{Reach::Selection, entries | Aspects::Rows};
 constexpr Touches row_sizes{Reach::Selection, Aspects::Rows};
 constexpr Touches column_sizes{Reach::Selection, Aspects::Columns};
@@ -74,8 +75,8 @@ constexpr std::array<Command, 103> table{{
     {0, &smart::SmartCopyToRight, plain, recorded},  // Smart Copy Right
     {1, &smart::SmartCopyDown, plain, recorded},  // Smart Copy Down
     {2, &smart::anchor_references, plain, contents},  // Smart Anchor
-    {3, &smart::SmartFormulaColumnSpacing, plain, contents},  // Smart Formula Column Spacing
-    {4, &smart::SmartFormulaRowSpacing, plain, contents},  // Smart Formula Row Spacing
+    {3, &smart::SmartFormulaColumnSpacing, plain, filled},  // Smart Formula Column Spacing
+    {4, &smart::SmartFormulaRowSpacing, plain, filled},  // Smart Formula Row Spacing
     {5, &smart::SmartFillDates, plain, recorded},  // Smart Fill Dates
     {6, &smart::SmartFillNumbers, plain, recorded},  // Smart Fill Numbers
     {7, later, plain, nothing},  // Smart Precedents

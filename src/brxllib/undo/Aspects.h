@@ -14,6 +14,8 @@ enum class Aspect : std::uint8_t {
     Rows,     // heights, hidden or shown, outline levels
     Columns,  // the same of columns
     Names,    // the defined names of the workbook, wherever they point
+    // Not of the cells, but what is to come: each of them may hold something of its own afterwards.
+    Filled = 8,
 };
 
 // A set of them.
@@ -22,13 +24,13 @@ class Aspects {
     constexpr Aspects() = default;
     constexpr Aspects(Aspect aspect) : bits_(bit(aspect)) {}
     constexpr Aspects(std::initializer_list<Aspect> aspects) {
-        for (const Aspect aspect : aspects) bits_ = static_cast<std::uint8_t>(bits_ | bit(aspect));
+        for (const Aspect aspect : aspects) bits_ = static_cast<std::uint16_t>(bits_ | bit(aspect));
     }
-    // As automation passes a set: 1 Contents, 2 Formats, 4 Conditions, 8 Merges, 16 Rows, 32 Columns, 64 Names, added
-    // up.
+    // As automation passes a set: 1 Contents, 2 Formats, 4 Conditions, 8 Merges, 16 Rows, 32 Columns, 64 Names,
+    // 256 Filled, added up.
     static constexpr Aspects of_bits(std::int32_t bits) {
         Aspects aspects;
-        aspects.bits_ = static_cast<std::uint8_t>(bits) & all().bits_;
+        aspects.bits_ = static_cast<std::uint16_t>(bits) & (all() | Aspect::Filled).bits_;
         return aspects;
     }
     static constexpr Aspects all() {
@@ -39,17 +41,17 @@ class Aspects {
     [[nodiscard]] constexpr bool has(Aspect aspect) const { return (bits_ & bit(aspect)) != 0; }
     [[nodiscard]] constexpr bool empty() const { return bits_ == 0; }
     constexpr Aspects& operator|=(Aspects other) {
-        bits_ = static_cast<std::uint8_t>(bits_ | other.bits_);
+        bits_ = static_cast<std::uint16_t>(bits_ | other.bits_);
         return *this;
     }
     friend constexpr Aspects operator|(Aspects one, Aspects other) { return one |= other; }
     constexpr bool operator==(const Aspects&) const = default;
 
   private:
-    static constexpr std::uint8_t bit(Aspect aspect) {
-        return static_cast<std::uint8_t>(1U << static_cast<unsigned>(aspect));
+    static constexpr std::uint16_t bit(Aspect aspect) {
+        return static_cast<std::uint16_t>(1U << static_cast<unsigned>(aspect));
     }
-    std::uint8_t bits_ = 0;
+    std::uint16_t bits_ = 0;
 };
 
 }  // namespace kestrune::brxllib::undo

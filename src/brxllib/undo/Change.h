@@ -42,9 +42,9 @@ class Change {
 
     // The cells that it speaks of.
     virtual void visit_cells(const VisitHeldCells& visit) const = 0;
-    // What other changes lose by it, when it is one that has rows or columns go in a direction (Redo is how it happens
-    // at first); else null.
-    [[nodiscard]] virtual LostCells* loses(Direction) { return nullptr; }
+    // Where the cells of all changes are before it moves in a direction (Redo is how it happens at first), when rows or
+    // columns come or go by it; else null.
+    [[nodiscard]] virtual DisplacedCells* displaces(Direction) { return nullptr; }
     // What a person wants to see once it has moved, as Excel's own undo selects it; nothing when it has no such cells.
     [[nodiscard]] virtual excel::Range shown(Direction) const { return {}; }
 

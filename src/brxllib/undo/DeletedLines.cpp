@@ -5,6 +5,7 @@
 
 #include "automation/AutomationError.h"
 #include "automation/ResumeNext.h"
+#include "brxllib/BlockAnswer.h"
 #include "brxllib/autocolor/ClassReader.h"
 #include "brxllib/undo/Lines.h"
 #include "brxllib/undo/LyingThings.h"
@@ -127,24 +128,26 @@ void DeletedLines::record_elsewhere(const excel::Workbook& workbook, const std::
         const std::string name = sheet.Name();
         const bool own = book.empty() && name == edited;
         const excel::Range used = sheet.UsedRange();
-        const std::int32_t row = used.Row();
-        const std::int32_t column = used.Column();
-        const Value formulas = used.Formula();
+        const Area area = areas_of(used).front();
+        const BlockAnswer formulas(used.Formula(), area);
+        std::optional<BlockAnswer> values;
+        // A text may look like a formula.
+        const auto is_formula = [&](formula::Position at, std::size_t place) {
+            if (!values) values.emplace(used.Value2(), area);
+            return !((*values)[place] == formulas[place]) || cell_of(sheet, at).HasFormula() == Value(true);
+        };
         Elsewhere elsewhere;
-        const auto look = [&](formula::Position at, const Value& cell) {
-            const auto* text = cell.if_is<std::string>();
+        const auto look = [&](formula::Position at, std::size_t place) {
+            const auto* text = formulas[place].if_is<std::string>();
             if (!text || !text->starts_with('=') || (own && lies_in(areas_, at))) return;
             std::string after = adjusted(*text, name, out);
-            if (adjusted(after, name, in) == *text) return;
+            if (adjusted(after, name, in) == *text || !is_formula(at, place)) return;
             elsewhere.formulas.push_back({at, own ? adjusted(at, out) : at, *text, std::move(after)});
         };
-        if (const automation::Array* block = formulas.array()) {
-            for (std::int32_t r = 1; r <= block->bound(0).count; ++r)
-                for (std::int32_t c = 1; c <= block->bound(1).count; ++c)
-                    look({row + r - 1, column + c - 1}, block->at(r, c));
-        } else {
-            look({row, column}, formulas);
-        }
+        std::size_t place = 0;
+        for (std::int32_t row = area.first_row; row <= area.last_row; ++row)
+            for (std::int32_t column = area.first_column; column <= area.last_column; ++column)
+                look({row, column}, place++);
         if (elsewhere.formulas.empty()) continue;
         Area around{1, 1, 1, 1};
         for (const Formula& formula : elsewhere.formulas) {
@@ -175,11 +178,11 @@ std::vector<DeletedLines::Mark*> DeletedLines::marks() {
 }
 
 bool DeletedLines::finish() {
-    const bool gone =
-        whole_sheet_ ? cells_ != cells_->again(most_bytes_, trace_) : beside_.cells->areas() == beside_gone_;
+    lying_after_ = lying_->again(most_bytes_, trace_);
+    const bool gone = whole_sheet_ ? lying_ != lying_after_ || cells_ != cells_->again(most_bytes_, trace_)
+                                   : beside_.cells->areas() == beside_gone_;
     if (!gone) return false;
     for (Mark* mark : marks()) mark->after = mark->cells->areas();
-    lying_after_ = lying_->again(most_bytes_, trace_);
     // As Excel writes them now.
     const automation::ResumeNext attempt(trace_);
     for (Elsewhere& elsewhere : elsewhere_) {

@@ -27,8 +27,8 @@ class DeletedLines final : public Change {
     void undo() override;
     void redo() override;
     void visit_cells(const VisitHeldCells& visit) const override;
-    [[nodiscard]] LostCells* loses(Direction direction) override {
-        return direction == Direction::Redo ? &lost_ : nullptr;
+    [[nodiscard]] DisplacedCells* displaces(Direction direction) override {
+        return direction == Direction::Redo ? &gone_ : &moved_;
     }
     [[nodiscard]] excel::Range shown(Direction direction) const override;
     [[nodiscard]] std::size_t bytes() const override;
@@ -75,7 +75,8 @@ class DeletedLines final : public Change {
     std::optional<Snapshot> lying_;           // of the whole sheet
     std::optional<Snapshot> lying_after_;
     std::vector<Elsewhere> elsewhere_;
-    LostCells lost_;
+    DisplacedCells gone_;
+    DisplacedCells moved_;
 };
 
 }  // namespace kestrune::brxllib::undo

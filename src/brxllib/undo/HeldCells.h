@@ -33,25 +33,26 @@ class HeldCells {
 using HeldCellsRef = std::shared_ptr<HeldCells>;
 using VisitHeldCells = std::function<void(const HeldCellsRef& cells)>;
 
-// Held cells that rows or columns take with them as they go.
-class LostCells {
+// Held cells as they are before rows or columns come or go: what goes takes some along, and what comes in pushes some
+// off the sheet.
+class DisplacedCells {
   public:
-    // Looks at cells before the rows or columns go.
+    // Looks at cells before it happens.
     void look(const HeldCellsRef& cells);
-    // They have gone: keeps those cells that are no longer what they were, or will not be once others come back.
+    // It has happened.
     void settle();
-    // They are about to come back: lets go of cells that something else has happened to since.
+    // It is about to be taken back: lets go of cells that something else has happened to since.
     void keep_untouched();
-    // They are back: holds the cells where they were. Fails with AutomationError.
+    // It was taken back: holds the cells where they were. Fails with AutomationError.
     void hold_again();
 
   private:
-    struct Lost {
+    struct Place {
         std::weak_ptr<HeldCells> cells;
         std::vector<formula::Area> before;
         std::optional<std::vector<formula::Area>> after{};
     };
-    std::vector<Lost> lost_;
+    std::vector<Place> displaced_;
 };
 
 }  // namespace kestrune::brxllib::undo

@@ -50,9 +50,12 @@ bool InsertedLines::record_end() {
     lying_.reset();
     lying_after_.reset();
     if (!end_state_) return false;
-    if (end.FormatConditions().Count() == 0 && end.MergeCells() == Value(false)) return true;
-    lying_ = Snapshot::take(application_, sheet.Cells(), {Aspect::Conditions, Aspect::Merges, Aspect::Names},
-                            most_bytes_, trace_);
+    // A rule that lies on both sides of the lines does not read as before once they are gone again.
+    Aspects lying;
+    if (sheet.Cells().FormatConditions().Count() > 0) lying |= Aspect::Conditions;
+    if (!(end.MergeCells() == Value(false))) lying |= Aspect::Merges;
+    if (lying.empty()) return true;
+    lying_ = Snapshot::take(application_, sheet.Cells(), lying, most_bytes_, trace_);
     return lying_.has_value();
 }
 
@@ -99,7 +102,7 @@ std::optional<Obstacle> InsertedLines::obstacle(Direction direction) const {
                         false};
     }
     if (lying_ && !(lying_after_ && lying_after_ == lying_after_->again(most_bytes_, trace_)))
-        return Obstacle{"merged areas, conditional formats or names have been changed since", true};
+        return Obstacle{"merged areas or conditional formats have been changed since", true};
     return {};
 }
 

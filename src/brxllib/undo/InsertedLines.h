@@ -12,8 +12,8 @@
 namespace kestrune::brxllib::undo {
 
 // Whole rows, or whole columns, that come in before some of the same kind. They go again as long as they hold what they
-// held when the step ended, and what they pushed off the sheet's end comes back: formats, measures, and where
-// conditional formats and merged areas reached.
+// held when the step ended. What they pushed off the sheet's end comes back, formats, sizes and merged areas, and the
+// sheet's conditional formats are as they were.
 class InsertedLines final : public Change {
   public:
     // Records before they come. `before`: as many rows (columns) as are to come in, in front of each of their areas.
@@ -26,8 +26,8 @@ class InsertedLines final : public Change {
     void undo() override;
     void redo() override;
     void visit_cells(const VisitHeldCells& visit) const override;
-    [[nodiscard]] LostCells* loses(Direction direction) override {
-        return direction == Direction::Undo ? &lost_ : &pushed_off_;
+    [[nodiscard]] DisplacedCells* displaces(Direction direction) override {
+        return direction == Direction::Undo ? &gone_ : &moved_;
     }
     [[nodiscard]] excel::Range shown(Direction direction) const override;
     [[nodiscard]] std::size_t bytes() const override;
@@ -53,10 +53,10 @@ class InsertedLines final : public Change {
     std::vector<automation::Value> contents_;
     formula::Area end_;                  // the lines that are pushed off
     std::optional<Snapshot> end_state_;  // how they were
-    std::optional<Snapshot> lying_;      // of the whole sheet, where something that lies on it reaches its end
+    std::optional<Snapshot> lying_;      // of the whole sheet, where something lies on it
     std::optional<Snapshot> lying_after_;
-    LostCells lost_;
-    LostCells pushed_off_;
+    DisplacedCells gone_;
+    DisplacedCells moved_;
 };
 
 }  // namespace kestrune::brxllib::undo

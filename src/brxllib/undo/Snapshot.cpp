@@ -19,6 +19,7 @@ using formula::Area;
 // What a used cell takes on record at least, on average: a blank block takes nothing, a full one nine bytes a cell and
 // its texts. Areas that are too large by this are not even read.
 constexpr std::size_t bytes_of_content = 2;
+constexpr std::size_t bytes_of_filled_cell = 9;
 // What an area takes whose cells are alike.
 constexpr std::size_t bytes_of_area = 8'192;
 
@@ -136,7 +137,9 @@ std::size_t Snapshot::estimate(const excel::Range& area, Aspects aspects) {
     for (const Area& part : areas_of(area)) {
         sum += bytes_of_area;
         const auto common = part.intersection(used);
-        if (common && aspects.has(Aspect::Contents))
+        if (aspects.has(Aspect::Filled))
+            sum += static_cast<std::size_t>(part.cells()) * bytes_of_filled_cell;
+        else if (common && aspects.has(Aspect::Contents))
             sum += static_cast<std::size_t>(common->cells()) * bytes_of_content;
     }
     return aspects.empty() ? 0 : sum;

@@ -32,29 +32,29 @@ class Moving {
 
 }  // namespace
 
-// Rows and columns that go take cells of other changes with them, and give them back when they come again.
+// Rows and columns that come or go displace the cells of other changes; moved back, they are where they were.
 void Stack::apply(Change& change, Direction direction) {
     const bool undoes = direction == Direction::Undo;
-    LostCells* const loses = change.loses(direction);
-    LostCells* const returns = change.loses(undoes ? Direction::Redo : Direction::Undo);
-    if (loses) {
-        *loses = {};
-        look_at_all_cells(*loses);
+    DisplacedCells* const displaced = change.displaces(direction);
+    DisplacedCells* const taken_back = change.displaces(undoes ? Direction::Redo : Direction::Undo);
+    if (displaced) {
+        *displaced = {};
+        look_at_all_cells(*displaced);
     }
-    if (returns) returns->keep_untouched();
+    if (taken_back) taken_back->keep_untouched();
     if (undoes) {
         change.undo();
     } else {
         change.redo();
     }
-    if (loses) loses->settle();
-    if (returns) returns->hold_again();
+    if (displaced) displaced->settle();
+    if (taken_back) taken_back->hold_again();
 }
 
-void Stack::look_at_all_cells(LostCells& lost) const {
-    const auto look = [&](const HeldCellsRef& cells) { lost.look(cells); };
+void Stack::look_at_all_cells(DisplacedCells& displaced) const {
+    const auto look = [&](const HeldCellsRef& cells) { displaced.look(cells); };
     const auto look_at = [&](const Step& step) {
-        if (step.cells) lost.look(step.cells);
+        if (step.cells) displaced.look(step.cells);
         for (const auto& change : step.changes) change->visit_cells(look);
     };
     for (const Step& step : done_) look_at(step);
@@ -109,7 +109,7 @@ void Stack::add(std::unique_ptr<Change> change) {
     if (given_up_) return;
     finish_last();
     open_->changes.push_back(std::move(change));
-    if (LostCells* lost = open_->changes.back()->loses(Direction::Redo)) look_at_all_cells(*lost);
+    if (DisplacedCells* displaced = open_->changes.back()->displaces(Direction::Redo)) look_at_all_cells(*displaced);
 }
 
 void Stack::finish_last() {
@@ -122,7 +122,7 @@ void Stack::finish_last() {
         // What cannot be looked at any more cannot be given back.
     }
     if (!changed) return changes.pop_back();
-    if (LostCells* lost = changes.back()->loses(Direction::Redo)) lost->settle();
+    if (DisplacedCells* displaced = changes.back()->displaces(Direction::Redo)) displaced->settle();
 }
 
 void Stack::give_up() {

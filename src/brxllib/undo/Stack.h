@@ -80,7 +80,7 @@ class Stack {
     template <class Iterator>
     std::optional<Obstacle> move_all(Iterator first, Iterator last, Direction direction);
     void apply(Change& change, Direction direction);
-    void look_at_all_cells(LostCells& lost) const;
+    void look_at_all_cells(DisplacedCells& displaced) const;
     void end_point();
     void close();
     void finish_last();

@@ -53,6 +53,20 @@ std::string name_of(const std::string_view (&names)[size], Enumeration value) {
 
 }  // namespace
 
+std::string underline_name(host::Underline underline) { return name_of(underlines, underline); }
+std::string pattern_name(host::Pattern pattern) { return name_of(patterns, pattern); }
+
+std::string color_text(const host::Workbook& workbook, const host::Color& color, std::string_view absent) {
+    return color.kind == host::Color::Kind::None || color.kind == host::Color::Kind::Automatic
+               ? std::string(absent)
+               : hex(workbook.rgb_of(color, 0));
+}
+
+std::string line_text(const host::Workbook& workbook, const host::Line& line) {
+    if (line.style == host::LineStyle::None) return "none";
+    return fmt::format("{} {}", name_of(lines, line.style), color_text(workbook, line.color, "automatic"));
+}
+
 const FormatFacts& FormatFactsOf::operator[](host::StyleId style) {
     const auto found = known_.find(style);
     if (found != known_.end()) return found->second;
@@ -66,14 +80,9 @@ FormatFacts FormatFactsOf::work_out(host::StyleId style) const {
     const host::Fill& fill = table.fill_of(style);
     const host::Border& border = table.border_of(style);
     const host::Alignment& alignment = format.alignment;
-    const auto color = [&](const host::Color& c, const char* absent) {
-        return c.kind == host::Color::Kind::None || c.kind == host::Color::Kind::Automatic
-                   ? std::string(absent)
-                   : hex(workbook_.rgb_of(c, 0));
-    };
+    const auto color = [&](const host::Color& c, const char* absent) { return color_text(workbook_, c, absent); };
     const auto line = [&](const host::Line& side, bool drawn = true) {
-        if (side.style == host::LineStyle::None || !drawn) return std::string("none");
-        return fmt::format("{} {}", name_of(lines, side.style), color(side.color, "automatic"));
+        return drawn ? line_text(workbook_, side) : "none";
     };
     const bool filled = fill.pattern != host::Pattern::None;
     const bool solid = fill.pattern == host::Pattern::Solid;
@@ -82,12 +91,12 @@ FormatFacts FormatFactsOf::work_out(host::StyleId style) const {
             fmt::format("{}", font.size),
             yes(font.bold),
             yes(font.italic),
-            name_of(underlines, font.underline),
+            underline_name(font.underline),
             yes(font.strike),
             yes(font.vertical == host::VerticalRun::Superscript),
             yes(font.vertical == host::VerticalRun::Subscript),
             color(font.color, "automatic"),
-            fill.gradient.empty() ? name_of(patterns, fill.pattern) : "gradient",
+            fill.gradient.empty() ? pattern_name(fill.pattern) : "gradient",
             filled ? color(solid ? fill.foreground : fill.background, "automatic") : "none",
             filled && !solid ? color(fill.foreground, "automatic") : "none",
             name_of(horizontals, alignment.horizontal),

@@ -41,6 +41,12 @@ inline constexpr auto format_properties = std::to_array<std::string_view>({"Numb
 
 using FormatFacts = std::array<std::string, format_properties.size()>;
 
+// Pieces of formats as texts: constants under their names, colours as #RRGGBB.
+[[nodiscard]] std::string underline_name(host::Underline underline);
+[[nodiscard]] std::string pattern_name(host::Pattern pattern);
+[[nodiscard]] std::string color_text(const host::Workbook& workbook, const host::Color& color, std::string_view absent);
+[[nodiscard]] std::string line_text(const host::Workbook& workbook, const host::Line& line);
+
 // What each format of a workbook says, worked out once a format. Constants stand under their names,
 // colours as #RRGGBB.
 class FormatFactsOf {

@@ -1,7 +1,10 @@
 #include "cli/diff/Rectangles.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
+#include <set>
+#include <utility>
 
 namespace kestrune::cli {
 
@@ -31,6 +34,39 @@ std::vector<formula::Area> rectangles(std::vector<formula::Position> cells) {
     }
     for (const auto& [rows, area] : open) done.push_back(area);
     std::ranges::sort(done, {}, &formula::Area::top_left);
+    return done;
+}
+
+std::vector<formula::Area> rectangles(const std::vector<formula::Area>& areas) {
+    // Bands of rows in which no area begins or ends; bands with the same columns that touch are one.
+    std::set<std::int32_t> cuts;
+    for (const formula::Area& area : areas) cuts.insert({area.first_row, area.last_row + 1});
+    using Columns = std::vector<std::pair<std::int32_t, std::int32_t>>;
+    std::vector<formula::Area> done;
+    Columns above;
+    std::size_t band = 0;  // where the rectangles of the last band begin
+    for (auto cut = cuts.begin(); cut != cuts.end() && std::next(cut) != cuts.end(); ++cut) {
+        const std::int32_t last_row = *std::next(cut) - 1;
+        Columns spans;
+        for (const formula::Area& area : areas)
+            if (area.first_row <= *cut && area.last_row >= last_row)
+                spans.emplace_back(area.first_column, area.last_column);
+        std::ranges::sort(spans);
+        Columns columns;
+        for (const auto& [first, last] : spans) {
+            if (!columns.empty() && first <= columns.back().second + 1)
+                columns.back().second = std::max(columns.back().second, last);
+            else
+                columns.emplace_back(first, last);
+        }
+        if (columns == above) {
+            for (std::size_t i = band; i < done.size(); ++i) done[i].last_row = last_row;
+            continue;
+        }
+        band = done.size();
+        for (const auto& [first, last] : columns) done.push_back({*cut, first, last_row, last});
+        above = std::move(columns);
+    }
     return done;
 }
 

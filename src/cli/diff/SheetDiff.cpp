@@ -7,6 +7,7 @@
 #include <optional>
 #include <set>
 
+#include "cli/diff/ConditionFacts.h"
 #include "cli/diff/Rectangles.h"
 #include "formula/A1.h"
 #include "formula/SheetName.h"
@@ -64,18 +65,6 @@ std::size_t property_of(host::Edge edge) {
 
 constexpr std::string_view no_line = "none";
 
-std::string rules_text(const std::vector<host::ConditionalFormat>& formats) {
-    std::vector<std::string> lines;
-    for (const host::ConditionalFormat& format : formats) {
-        for (const host::ConditionalRule& rule : format.rules) {
-            lines.push_back(fmt::format("{} {} {} {}", areas_text(format.areas), rule.type, rule.operator_name,
-                                        fmt::join(rule.formulas, " ")));
-        }
-    }
-    std::ranges::sort(lines);
-    return fmt::format("{}", fmt::join(lines, "; "));
-}
-
 }  // namespace
 
 SheetDiff::SheetDiff(host::Sheet& before, host::Sheet& after, FormatFactsOf& before_facts, FormatFactsOf& after_facts,
@@ -130,8 +119,7 @@ void SheetDiff::settings() {
         return areas_text(areas);
     };
     tell_if_changed(place, "MergeCells", merges(before_), merges(after_));
-    tell_if_changed(place, "FormatConditions", rules_text(before_.conditional_formats()),
-                    rules_text(after_.conditional_formats()));
+    tell_if_changed(place, "FormatConditions", condition_facts(before_), condition_facts(after_));
 }
 
 // Both sheets' runs cut the columns into stretches that are alike on either side.

@@ -15,6 +15,7 @@ enum class Aspects : std::int32_t {
     Columns = 32,         // the same of columns
     Names = 64,           // the workbook's defined names
     NumberFormats = 128,  // custom number formats that nothing shows
+    Filled = 256,         // none of these, but that each cell reached may be filled: many are asked about first
 };
 constexpr Aspects operator|(Aspects one, Aspects other) {
     return static_cast<Aspects>(static_cast<std::int32_t>(one) | static_cast<std::int32_t>(other));

@@ -190,8 +190,9 @@ class SmartCopy {
         bool wanted = true;
         // A library that keeps no record is no reason to do nothing.
         attempt_.assign(wanted, [&] {
+            using enum core::Aspects;
             return shared_.spreadsheet().record(range(lines.front(), first_place_, lines.back(), last_place_).object(),
-                                                core::Aspects::Contents | core::Aspects::Formats);
+                                                Contents | Formats | Filled);
         });
         return wanted;
     }

@@ -46,7 +46,8 @@ class Filler {
         const ResumeNext attempt(shared_.trace);
         bool wanted = true;
         attempt.assign(wanted, [&] {
-            return shared_.spreadsheet().record(block.object(), core::Aspects::Contents | core::Aspects::Formats);
+            using enum core::Aspects;
+            return shared_.spreadsheet().record(block.object(), Contents | Formats | Filled);
         });
         if (!wanted) return;
         const core::RedrawingPause pause(shared_, block);
