@@ -32,8 +32,10 @@ std::string format_text(const host::Workbook& workbook, const host::Differential
     }
     if (format.border) {
         const host::Border& border = *format.border;
-        for (const auto& [side, name] : {std::pair{&border.left, "left"}, {&border.top, "top"},
-                                         {&border.bottom, "bottom"}, {&border.right, "right"}}) {
+        for (const auto& [side, name] : {std::pair{&border.left, "left"},
+                                         {&border.top, "top"},
+                                         {&border.bottom, "bottom"},
+                                         {&border.right, "right"}}) {
             if (side->style != host::LineStyle::None)
                 facts.push_back(fmt::format("{} {}", name, line_text(workbook, *side)));
         }
