@@ -29,12 +29,14 @@ std::string refusal(const Snapshot& cells, const std::string& line) {
 }  // namespace
 
 bool CellsChange::finish() {
-    std::erase_if(cells_, [&](Cells& cells) {
+    bool changed = false;
+    for (Cells& cells : cells_) {
         cells.after = cells.before.again(most_bytes_, trace_);
         cells.present = cells.after;
-        return cells.after == cells.before;
-    });
-    return !cells_.empty();
+        changed |= !(cells.after == cells.before);
+    }
+    // Cells that are as they were may have changed in between, and others on record in that state.
+    return changed;
 }
 
 std::optional<Obstacle> CellsChange::obstacle(Direction) const {

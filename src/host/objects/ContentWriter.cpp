@@ -1,6 +1,7 @@
 #include "host/objects/ContentWriter.h"
 
 #include <algorithm>
+#include <optional>
 
 #include "formula/Convert.h"
 #include "formula/FormulaCheck.h"
@@ -120,37 +121,38 @@ void ContentWriter::write_scalar(const Value& value) {
 
 void ContentWriter::write_array(const Array& array) {
     const Elements elements(array);
-    std::vector<CellEntry> entries;
-    std::vector<CellEntry> as_texts;  // the same where a cell keeps texts as typed
     const std::vector<StyleId> formats = cells_.formats();
     const bool any_text = std::ranges::any_of(formats, [&](StyleId id) { return is_text(id); });
-    entries.reserve(array.elements().size());
-    for (const Value& element : array.elements()) {
-        entries.push_back(read(element, false));
-        if (any_text) as_texts.push_back(read(element, true));
-    }
-    const CellEntry beyond = read(Value(automation::Error{static_cast<std::int32_t>(CellError::NA)}), false);
     for (const Area& area : cells_.areas()) {
         if (area.cells() > most_cells) refuse(member_, "there are too many cells to fill");
     }
-    clear_arrays();
-    for (const Area& area : cells_.areas()) {
-        for (std::int32_t column = area.first_column; column <= area.last_column; ++column) {
-            for (std::int32_t row = area.first_row; row <= area.last_row; ++row) {
-                const Position at{row, column};
-                if (covered(at)) continue;
-                const std::ptrdiff_t index = elements.index(row - area.first_row, column - area.first_column);
-                if (index < 0) {
-                    put(at, at, beyond);
-                    continue;
+    // visit(place, element, as text): the element's number, negative for none.
+    const auto each_cell = [&](auto&& visit) {
+        for (const Area& area : cells_.areas()) {
+            for (std::int32_t column = area.first_column; column <= area.last_column; ++column) {
+                for (std::int32_t row = area.first_row; row <= area.last_row; ++row) {
+                    const Position at{row, column};
+                    if (covered(at)) continue;
+                    visit(at, elements.index(row - area.first_row, column - area.first_column),
+                          any_text && is_text(cells_.sheet().style_at(at)));
                 }
-                const auto i = static_cast<std::size_t>(index);
-                const bool text = any_text && is_text(cells_.sheet().style_at(at));
-                // Formulas of an array stand for the cell that they are put into.
-                put(at, at, text ? as_texts[i] : entries[i]);
             }
         }
-    }
+    };
+    // Everything is read before anything is written. A cell that keeps texts as typed takes what is no formula.
+    std::vector<std::optional<CellEntry>> entries(array.elements().size());
+    std::vector<std::optional<CellEntry>> as_texts(any_text ? array.elements().size() : 0);
+    each_cell([&](Position, std::ptrdiff_t index, bool text) {
+        if (index < 0) return;
+        auto& entry = (text ? as_texts : entries)[static_cast<std::size_t>(index)];
+        if (!entry) entry = read(array.elements()[static_cast<std::size_t>(index)], text);
+    });
+    const CellEntry beyond = read(Value(automation::Error{static_cast<std::int32_t>(CellError::NA)}), false);
+    clear_arrays();
+    each_cell([&](Position at, std::ptrdiff_t index, bool text) {
+        // Formulas of an array stand for the cell that they are put into.
+        put(at, at, index < 0 ? beyond : *(text ? as_texts : entries)[static_cast<std::size_t>(index)]);
+    });
 }
 
 StyleId ContentWriter::restyled(StyleId style, const CellEntry& entry) const {
