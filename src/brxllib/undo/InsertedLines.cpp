@@ -42,11 +42,12 @@ std::unique_ptr<InsertedLines> InsertedLines::take(const excel::Application& app
     return change->record_end() ? std::move(change) : nullptr;
 }
 
+Aspects InsertedLines::looks() const { return {Aspect::Formats, rows_ ? Aspect::Rows : Aspect::Columns}; }
+
 bool InsertedLines::record_end() {
     const excel::Worksheet& sheet = origin_->sheet();
     const excel::Range end = range_of(application_, sheet, std::span(&end_, 1));
-    end_state_ = Snapshot::take(application_, end, {Aspect::Formats, rows_ ? Aspect::Rows : Aspect::Columns},
-                                most_bytes_, trace_);
+    end_state_ = Snapshot::take(application_, end, looks(), most_bytes_, trace_);
     lying_.reset();
     lying_after_.reset();
     if (!end_state_) return false;
@@ -107,6 +108,7 @@ std::optional<Obstacle> InsertedLines::obstacle(Direction direction) const {
 }
 
 void InsertedLines::undo() {
+    looks_ = Snapshot::take(application_, inserted_->range(), looks(), most_bytes_, trace_);
     inserted_->range().Delete(rows_ ? excel::xlUp : excel::xlToLeft);
     // At the end of the sheet they had pushed it off.
     if (origin_->areas() != areas_) origin_->hold(areas_);
@@ -127,6 +129,12 @@ void InsertedLines::redo() {
     if (!record_end())
         throw AutomationError(automation::hresult::excel_error, "iUndoRedo", "it changes more than undo can hold");
     origin_->range().Insert();
+    // Excel formats what comes in like its neighbours, by which of two cells has the line that both share: that may be
+    // the other one by now.
+    if (looks_) {
+        looks_->held()->hold(places_);
+        looks_->restore(trace_);
+    }
     settle();
 }
 
@@ -148,7 +156,7 @@ std::size_t InsertedLines::bytes() const {
         const automation::Array* block = content.array();
         sum += sizeof(Value) * (block ? block->elements().size() : 1);
     }
-    for (const auto* snapshot : {&end_state_, &lying_, &lying_after_})
+    for (const auto* snapshot : {&end_state_, &lying_, &lying_after_, &looks_})
         if (*snapshot) sum += (*snapshot)->bytes();
     return sum;
 }

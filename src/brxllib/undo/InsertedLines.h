@@ -35,6 +35,7 @@ class InsertedLines final : public Change {
   private:
     InsertedLines(excel::Application application, const excel::Range& before, bool rows, std::size_t most_bytes,
                   const automation::Trace& trace);
+    [[nodiscard]] Aspects looks() const;
     // What the insertion pushes off; false when that is too much.
     bool record_end();
     // They are in.
@@ -55,6 +56,7 @@ class InsertedLines final : public Change {
     std::optional<Snapshot> end_state_;  // how they were
     std::optional<Snapshot> lying_;      // of the whole sheet, where something lies on it
     std::optional<Snapshot> lying_after_;
+    std::optional<Snapshot> looks_;  // of what came in, once undone
     DisplacedCells gone_;
     DisplacedCells moved_;
 };
