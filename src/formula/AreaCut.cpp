@@ -1,5 +1,7 @@
 #include "formula/AreaCut.h"
 
+#include <utility>
+
 namespace kestrune::formula {
 
 std::vector<Area> area_without(const Area& area, const Area& hole) {
@@ -14,6 +16,20 @@ std::vector<Area> area_without(const Area& area, const Area& hole) {
     add({common->first_row, common->last_column + 1, common->last_row, area.last_column});
     add({common->last_row + 1, area.first_column, area.last_row, area.last_column});
     return left;
+}
+
+std::vector<Area> areas_without(std::vector<Area> areas, const std::vector<Area>& holes) {
+    for (const Area& hole : holes) {
+        std::vector<Area> left;
+        for (const Area& area : areas)
+            for (const Area& piece : area_without(area, hole)) left.push_back(piece);
+        areas = std::move(left);
+    }
+    return areas;
+}
+
+bool same_cells(const std::vector<Area>& one, const std::vector<Area>& other) {
+    return one == other || (areas_without(one, other).empty() && areas_without(other, one).empty());
 }
 
 }  // namespace kestrune::formula

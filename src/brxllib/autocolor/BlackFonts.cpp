@@ -14,6 +14,7 @@
 #include "brxllib/autocolor/RespectedColors.h"
 #include "excel/Constants.h"
 #include "formula/A1.h"
+#include "formula/AreaCut.h"
 
 namespace kestrune::brxllib {
 namespace {
@@ -38,28 +39,6 @@ std::vector<excel::FormatCondition> marked(const excel::Worksheet& sheet) {
     return found;
 }
 
-// What of the areas lies outside of a hole.
-std::vector<Area> without(const std::vector<Area>& areas, const Area& hole) {
-    std::vector<Area> left;
-    for (const Area& area : areas) {
-        const auto common = area.intersection(hole);
-        if (!common) {
-            left.push_back(area);
-            continue;
-        }
-        const auto& [top, first, bottom, last] = *common;
-        const Area around[] = {
-            {area.first_row, area.first_column, top - 1, area.last_column},
-            {top, area.first_column, bottom, first - 1},
-            {top, last + 1, bottom, area.last_column},
-            {bottom + 1, area.first_column, area.last_row, area.last_column},
-        };
-        std::ranges::copy_if(around, std::back_inserter(left),
-                             [](const Area& part) { return part.rows() > 0 && part.columns() > 0; });
-    }
-    return left;
-}
-
 // The cells of a sheet, used or not, that are to be black.
 std::vector<Area> cells_to_blacken(const excel::Worksheet& sheet, RespectedColors& respected) {
     const excel::Range all = sheet.Cells();
@@ -68,7 +47,8 @@ std::vector<Area> cells_to_blacken(const excel::Worksheet& sheet, RespectedColor
         visit_uniform_parts(
             used, [&](const Area& part) { return sheet.Range(formula::area_text(part)).Font().Color(); },
             [&](const Area& part, const Value& color) {
-                if (respected.holds(automation::to_integer(color))) cells = without(cells, part);
+                if (respected.holds(automation::to_integer(color)))
+                    cells = formula::areas_without(std::move(cells), {part});
             });
     }
     return cells;

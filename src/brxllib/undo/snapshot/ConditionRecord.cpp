@@ -17,21 +17,9 @@ using excel::FormatCondition;
 using formula::Area;
 using Areas = std::vector<Area>;
 
-// What is left of areas without others.
-Areas without(Areas areas, const Areas& others) {
-    for (const Area& other : others) {
-        Areas left;
-        for (const Area& area : areas) {
-            for (const Area& piece : formula::area_without(area, other)) left.push_back(piece);
-        }
-        areas = std::move(left);
-    }
-    return areas;
-}
-
 // Areas as they are outside some cells, and as others are in these.
 Areas replaced(const Areas& areas, const Areas& others, const Areas& cells) {
-    Areas all = without(areas, cells);
+    Areas all = formula::areas_without(areas, cells);
     for (const Area& other : others) {
         for (const Area& cell : cells) {
             if (const auto common = other.intersection(cell)) all.push_back(*common);
@@ -105,8 +93,8 @@ void ConditionRecord::restore(const excel::Range& range, Restoring& restoring) c
             const auto same = std::ranges::find_if(present, [&](const Present& one) {
                 const Areas& cells = one.state.applies_to;
                 return !one.taken && rules_[i].same_rule(one.state) &&
-                       (where == Found::InSameCells    ? wanted == cells
-                        : where == Found::InSomeOfThem ? without(cells, wanted).empty()
+                       (where == Found::InSameCells    ? formula::same_cells(wanted, cells)
+                        : where == Found::InSomeOfThem ? formula::areas_without(cells, wanted).empty()
                                                        : touch(cells, wanted));
             });
             if (same == present.end()) continue;
@@ -114,8 +102,7 @@ void ConditionRecord::restore(const excel::Range& range, Restoring& restoring) c
             found[i] = same->condition;
             if (where == Found::InSameCells) continue;
             const Areas cells = where == Found::InSomeOfThem ? wanted : replaced(same->state.applies_to, wanted, own);
-            if (without(same->state.applies_to, cells).empty() && without(cells, same->state.applies_to).empty())
-                continue;
+            if (formula::same_cells(same->state.applies_to, cells)) continue;
             restoring(address_text(wanted), "FormatConditions", [&] {
                 found[i]->ModifyAppliesToRange(range_of(restoring.application(), restoring.sheet(), cells));
             });
@@ -125,9 +112,9 @@ void ConditionRecord::restore(const excel::Range& range, Restoring& restoring) c
     for (auto other = present.rbegin(); other != present.rend(); ++other) {
         if (other->taken || !touch(other->state.applies_to, own)) continue;
         restoring(address_text(other->state.applies_to), "FormatConditions", [&] {
-            const Areas left = without(other->state.applies_to, own);
+            const Areas left = formula::areas_without(other->state.applies_to, own);
             const bool changed_rule = std::ranges::any_of(rules_, [&](const ConditionState& rule) {
-                return without(other->state.applies_to, rule.applies_to).empty();
+                return formula::areas_without(other->state.applies_to, rule.applies_to).empty();
             });
             if (left.empty() || changed_rule) return other->condition.Delete();
             other->condition.ModifyAppliesToRange(range_of(restoring.application(), restoring.sheet(), left));
@@ -152,7 +139,7 @@ void ConditionRecord::restore(const excel::Range& range, Restoring& restoring) c
 
 void ConditionRecord::tell_irreplaceable(const Areas& areas, std::vector<std::string>& lines) const {
     for (const ConditionState& rule : rules_) {
-        if (rule.replaceable() || !without(rule.applies_to, areas).empty()) continue;
+        if (rule.replaceable() || !formula::areas_without(rule.applies_to, areas).empty()) continue;
         lines.push_back("a conditional format of " + address_text(rule.applies_to));
     }
 }

@@ -9,6 +9,7 @@
 #include "brxllib/undo/snapshot/Reading.h"
 #include "excel/Range.h"
 #include "formula/Area.h"
+#include "formula/AreaCut.h"
 
 namespace kestrune::brxllib::undo {
 
@@ -31,7 +32,9 @@ struct ConditionState {
     // Whether Excel can make one like it.
     [[nodiscard]] bool replaceable() const;
     // Of the order in which rules are tried only what comes before what counts.
-    bool operator==(const ConditionState& other) const { return same_rule(other) && applies_to == other.applies_to; }
+    bool operator==(const ConditionState& other) const {
+        return same_rule(other) && formula::same_cells(applies_to, other.applies_to);
+    }
     [[nodiscard]] std::size_t bytes() const;
 };
 
