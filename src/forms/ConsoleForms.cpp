@@ -1,4 +1,5 @@
 // Forms on a terminal.
+#include <algorithm>
 #include <charconv>
 #include <istream>
 #include <ostream>
@@ -20,6 +21,31 @@ using automation::same_text;
 // The controls that have a number, in the order of the numbers.
 using Numbered = std::vector<Control*>;
 
+// What can be chosen: of lists as many items as a screen takes around what is chosen.
+void write_choices(std::ostream& output, const Control& control) {
+    constexpr std::int32_t most = 20;
+    if (!control.usable()) return;
+    if (control.is(Kind::Combo) || control.is(Kind::Tabs)) {
+        output << "          one of " << items_text(control, most) << '\n';
+    }
+    if (!control.is(Kind::List)) return;
+    const auto count = static_cast<std::int32_t>(control.List().size());
+    const std::int32_t first = std::clamp(control.ListIndex() - most / 2, 0, std::max(0, count - most));
+    const std::int32_t last = std::min(count, first + most);
+    if (first > 0) output << "          ... " << first << " before\n";
+    for (std::int32_t i = first; i < last; ++i) {
+        const std::string number = "#" + std::to_string(i + 1);
+        output << std::string(number.size() < 9 ? 9 - number.size() : 0, ' ') << number
+               << (i == control.ListIndex() ? " > " : "   ");
+        const auto columns = std::max<std::size_t>(1, control.design().columns.size());
+        for (std::size_t column = 0; column < columns; ++column) {
+            output << (column > 0 ? "  " : "") << control.item(i, column);
+        }
+        output << '\n';
+    }
+    if (last < count) output << "          ... " << count - last << " more\n";
+}
+
 Numbered write(std::ostream& output, Form& form) {
     Numbered numbered;
     output << form.Caption() << '\n';
@@ -31,6 +57,7 @@ Numbered write(std::ostream& output, Form& form) {
         }
         output << std::string(number.size() < 4 ? 4 - number.size() : 0, ' ') << number << ' '
                << std::string(static_cast<std::size_t>(line.depth) * 2, ' ') << line.text << '\n';
+        write_choices(output, *line.control);
     }
     return numbered;
 }

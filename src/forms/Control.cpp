@@ -55,6 +55,7 @@ void Control::Text(std::string text) {
     if (is(Kind::List) || (is(Kind::Combo) && !design_.editable)) return ListIndex(place_of(text));
     if (text_ == text) return;
     text_ = std::move(text);
+    marked_from_ = marked_length_ = 0;
     const std::int32_t before = index_;
     if (is(Kind::Combo)) index_ = place_of(text_);
     changed_value();
@@ -77,10 +78,33 @@ void Control::ListIndex(std::int32_t index) {
     if (index >= 0 && !is(Kind::Tabs)) home_.fire(*this, Event::Click);
 }
 
+std::string_view Control::item(std::int32_t index, std::size_t column) const {
+    if (index < 0 || index >= static_cast<std::int32_t>(items_.size())) return {};
+    std::string_view rest = items_[static_cast<std::size_t>(index)];
+    for (; column > 0; --column) {
+        const std::size_t tab = rest.find('\t');
+        if (tab == std::string_view::npos) return {};
+        rest.remove_prefix(tab + 1);
+    }
+    return rest.substr(0, rest.find('\t'));
+}
+
 std::int32_t Control::place_of(std::string_view text) const {
     const auto found =
         std::ranges::find_if(items_, [&](const auto& item) { return automation::same_text(item, text); });
-    return found == items_.end() ? -1 : static_cast<std::int32_t>(found - items_.begin());
+    if (found != items_.end()) return static_cast<std::int32_t>(found - items_.begin());
+    const auto count = static_cast<std::int32_t>(design_.columns.empty() ? 0 : items_.size());
+    for (std::int32_t i = 0; i < count; ++i) {
+        if (automation::same_text(item(i, 0), text)) return i;
+    }
+    return -1;
+}
+
+void Control::mark(std::int32_t start, std::int32_t length) {
+    if (start == marked_from_ && length == marked_length_) return;
+    marked_from_ = start;
+    marked_length_ = length;
+    home_.changed(*this);
 }
 
 void Control::Number(std::int32_t number) {
@@ -104,8 +128,9 @@ automation::Value Control::Value() const {
             return checked_;
         case Kind::Text:
         case Kind::Combo:
-        case Kind::List:
             return text_;
+        case Kind::List:
+            return design_.columns.empty() ? text_ : std::string(item(index_, 0));
         case Kind::Spin:
             return number_;
         case Kind::Tabs:

@@ -64,12 +64,19 @@ class Control {
     [[nodiscard]] const std::string& Text() const { return text_; }
     void Text(std::string text);
 
+    // Text boxes: what is marked in them, in characters as Visual Basic counts (UTF-16), from 0 on.
+    [[nodiscard]] std::int32_t SelStart() const { return marked_from_; }
+    [[nodiscard]] std::int32_t SelLength() const { return marked_length_; }
+    void mark(std::int32_t start, std::int32_t length);
+
     // Lists, combo boxes and tabs: their items, and which is chosen, from 0 on; -1 for none.
     [[nodiscard]] const std::vector<std::string>& List() const { return items_; }
     void List(std::vector<std::string> items);  // nothing is chosen then
     [[nodiscard]] std::int32_t ListIndex() const { return index_; }
     void ListIndex(std::int32_t index);  // what is no place chooses nothing
-    // The item that reads like a text whatever its case; -1 when none does.
+    // The text of an item in one column, from 0 on; empty where there is none.
+    [[nodiscard]] std::string_view item(std::int32_t index, std::size_t column) const;
+    // The item that reads like a text, or whose first column does, whatever its case; -1 when none does.
     [[nodiscard]] std::int32_t place_of(std::string_view text) const;
 
     // Spin buttons.
@@ -82,8 +89,8 @@ class Control {
     [[nodiscard]] const std::shared_ptr<const forms::Picture>& Picture() const { return picture_; }
     void Picture(std::shared_ptr<const forms::Picture> picture) { assign(picture_, std::move(picture)); }
 
-    // The value of whatever kind: a Boolean, a text, a number, the place of the page that is seen. Empty for labels,
-    // frames, buttons and images.
+    // The value of whatever kind: a Boolean, a text (of a list with columns that of the first), a number, the place of
+    // the page that is seen. Empty for labels, frames, buttons and images.
     [[nodiscard]] automation::Value Value() const;
 
   private:
@@ -105,6 +112,8 @@ class Control {
     std::shared_ptr<const forms::Picture> picture_;
     std::int32_t index_ = -1;
     std::int32_t number_ = 0;
+    std::int32_t marked_from_ = 0;
+    std::int32_t marked_length_ = 0;
     std::int32_t min_ = 0;
     std::int32_t max_ = 100;
     char accelerator_ = 0;

@@ -14,7 +14,7 @@ enum class Kind : std::uint8_t {
     Frame,   // holds controls; option buttons in it exclude each other
     Option,  // option button
     Check,   // check box
-    Text,    // text box of one line
+    Text,    // text box
     Combo,   // one of several texts, or any text when it is editable
     List,
     Spin,  // two arrows that change a number
@@ -43,6 +43,12 @@ enum class Role : std::uint8_t {
     Cancel,   // and Escape
 };
 
+// A column of a list.
+struct ListColumn {
+    std::string_view head;
+    double width = 0;  // points; the last one takes what is left
+};
+
 // One control of a form as it is until code changes it. All sizes are points.
 struct ControlDesign {
     std::string_view name;
@@ -60,6 +66,9 @@ struct ControlDesign {
     double indent = 0;                             // more room at its left
     std::int32_t page = 0;                         // of tabs, from 0 on
     std::span<const std::string_view> items = {};  // of combo boxes, lists and tabs (their pages)
+    std::span<const ListColumn> columns = {};      // of a list whose items have several texts, parted by tabs
+    bool multi_line = false;                       // a text box of several lines, broken where they are too long
+    bool locked = false;                           // a text box that is read, and not written in
     bool editable = false;                         // a combo box takes any text
     std::int32_t min = 0;                          // of spin buttons
     std::int32_t max = 100;
@@ -85,7 +94,7 @@ struct FormDesign {
     std::string_view name;  // of its class, "fSmartCopy"
     std::string_view caption;
     std::span<const ControlDesign> controls;
-    bool sizable = false;
+    bool sizable = false;  // by the person, who finds it again as they left it
 };
 
 }  // namespace kestrune::forms

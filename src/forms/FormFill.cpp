@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "automation/Text.h"
+#include "forms/FormText.h"
 
 namespace kestrune::forms {
 namespace {
@@ -22,10 +23,23 @@ std::optional<bool> truth_of(std::string_view text) {
     return std::nullopt;
 }
 
-// The item of that text, else the only one that begins with it; -1 for none.
+constexpr std::int32_t most_listed = 20;
+
+std::optional<std::int32_t> whole_number(std::string_view text) {
+    std::int32_t number = 0;
+    const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (failure != std::errc{} || end != text.data() + text.size()) return std::nullopt;
+    return number;
+}
+
+// The item of that text, else the only one that begins with it, else that of a place ("#3"); -1 for none.
 std::int32_t item_meant(const Control& control, std::string_view text) {
     const std::int32_t exact = control.place_of(text);
     if (exact >= 0 || text.empty()) return exact;
+    if (text.front() == '#') {
+        const std::int32_t place = whole_number(text.substr(1)).value_or(0);
+        return place >= 1 && place <= static_cast<std::int32_t>(control.List().size()) ? place - 1 : -1;
+    }
     std::int32_t found = -1;
     for (std::size_t i = 0; i < control.List().size(); ++i) {
         if (!same_text(std::string_view(control.List()[i]).substr(0, text.size()), text)) continue;
@@ -35,22 +49,14 @@ std::int32_t item_meant(const Control& control, std::string_view text) {
     return found;
 }
 
-std::string listed(const Control& control) {
-    std::string text;
-    for (const std::string& item : control.List()) text += (text.empty() ? "" : ", ") + item;
-    return text;
-}
-
 std::string enter_number(Form& form, Control& control, std::string_view value) {
-    std::int32_t number = 0;
-    const auto [end, failure] = std::from_chars(value.data(), value.data() + value.size(), number);
-    if (failure != std::errc{} || end != value.data() + value.size() || number < control.Min() ||
-        number > control.Max()) {
+    const auto number = whole_number(value);
+    if (!number || *number < control.Min() || *number > control.Max()) {
         return "is no whole number from " + std::to_string(control.Min()) + " to " + std::to_string(control.Max());
     }
-    while (control.Number() != number) {
+    while (control.Number() != *number) {
         const std::int32_t before = control.Number();
-        form.spin(control, number > before);
+        form.spin(control, *number > before);
         if (control.Number() == before) return "cannot be reached";
     }
     return {};
@@ -61,6 +67,7 @@ std::string enter_number(Form& form, Control& control, std::string_view value) {
 std::string enter_value(Form& form, Control& control, std::string_view value) {
     if (control.Value().is(automation::Value::Kind::Empty)) return "the control has no value";
     if (!control.usable()) return "the control is disabled";
+    if (control.design().locked) return "the text can only be read";
     switch (control.kind()) {
         case Kind::Option:
         case Kind::Check: {
@@ -81,7 +88,7 @@ std::string enter_value(Form& form, Control& control, std::string_view value) {
                 form.choose(control, item);
                 return control.ListIndex() == item ? "" : "the form does not allow it";
             }
-            if (!control.design().editable) return "is none of " + listed(control);
+            if (!control.design().editable) return "is none of " + items_text(control, most_listed);
             [[fallthrough]];
         }
         default:

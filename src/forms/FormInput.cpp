@@ -123,7 +123,8 @@ void Form::double_click(Control& control) {
 }
 
 void Form::type(Control& control, std::string text) {
-    const bool types = control.is(Kind::Text) || (control.is(Kind::Combo) && control.design().editable);
+    const bool types =
+        (control.is(Kind::Text) && !control.design().locked) || (control.is(Kind::Combo) && control.design().editable);
     if (types && go_to(control)) control.Text(std::move(text));
 }
 

@@ -1,5 +1,7 @@
 #include "forms/FormText.h"
 
+#include <algorithm>
+
 #include "automation/Conversion.h"
 
 namespace kestrune::forms {
@@ -47,12 +49,39 @@ bool has_line(const Control& control, const Control* next) {
     }
 }
 
+// A text box with what is marked in it between guillemets.
+std::string marked_text(const Control& control) {
+    const std::string& text = control.Text();
+    if (control.SelLength() < 1) return text;
+    // Bytes at which the marked part begins and ends; four bytes are two characters of UTF-16.
+    std::int32_t at = 0;
+    std::size_t begin = text.size();
+    std::size_t end = text.size();
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(text[i]);
+        if ((byte & 0xC0) == 0x80) continue;
+        if (at >= control.SelStart()) begin = std::min(begin, i);
+        if (at >= control.SelStart() + control.SelLength()) end = std::min(end, i);
+        at += byte >= 0xF0 ? 2 : 1;
+    }
+    return text.substr(0, begin) + "\u00AB" + text.substr(begin, end - begin) + "\u00BB" + text.substr(end);
+}
+
+// Written in one line.
+std::string in_one_line(std::string text) {
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\n' || c == '\r' || c == '\t'; }, ' ');
+    return text;
+}
+
 std::string line_of(const Form& form, const Control& control) {
     switch (control.kind()) {
         case Kind::Option:
             return (control.Checked() ? "(x) " : "( ) ") + control.Caption();
         case Kind::Check:
             return (control.Checked() ? "[x] " : "[ ] ") + control.Caption();
+        case Kind::Text:
+            return title_of(form, control) + ": " + in_one_line(marked_text(control));
         case Kind::Tabs:
             return title_of(form, control) + ": " + control.List()[static_cast<std::size_t>(control.ListIndex())];
         default:
@@ -72,6 +101,19 @@ std::string title_of(const Form& form, const Control& control) {
     }
     const bool labelled = before && before->container() == control.container() && !before->Caption().empty();
     return labelled && before->is(Kind::Label) ? without_colon(before->Caption()) : std::string(control.Name());
+}
+
+std::string items_text(const Control& control, std::int32_t most) {
+    const auto count = static_cast<std::int32_t>(control.List().size());
+    if (count == 0) return "nothing: the list is empty";
+    std::string text;
+    for (std::int32_t i = 0; i < std::min(count, most); ++i) {
+        text += text.empty() ? "" : ", ";
+        text += control.design().columns.empty() ? control.List()[static_cast<std::size_t>(i)]
+                                                 : std::string(control.item(i, 0));
+    }
+    if (count > most) text += " and " + std::to_string(count - most) + " more";
+    return text;
 }
 
 std::vector<FormLine> form_lines(const Form& form) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -9,6 +10,9 @@ namespace kestrune::forms {
 
 // What a box is called: its own caption, or that of the label before it; else its name.
 [[nodiscard]] std::string title_of(const Form& form, const Control& control);
+
+// What can be chosen in a list, combo box or tabs, so many at most: "Red, Green and 7 more".
+[[nodiscard]] std::string items_text(const Control& control, std::int32_t most);
 
 // One line of a form written down.
 struct FormLine {

@@ -18,6 +18,7 @@ constexpr double least_button = 56.25;
 constexpr Size frame_inset{8.25, 7.5};
 constexpr double usual_width = 72;  // of boxes
 constexpr double usual_lines = 6;   // of lists
+constexpr double usual_text_lines = 3;
 
 struct Cell {
     std::size_t control;
@@ -121,6 +122,8 @@ class Arranger {
 
     [[nodiscard]] Size need_of(const Control& control) const {
         const ControlDesign& design = control.design();
+        // Lists may be long, and measuring texts costs.
+        if (design.width > 0 && design.height > 0) return {design.width, design.height};
         const Size need = natural(control);
         return {design.width > 0 ? design.width : need.width, design.height > 0 ? design.height : need.height};
     }
@@ -136,11 +139,13 @@ class Arranger {
             case Kind::Check:
                 return {glyph + caption().width + 2.25, std::max(line_height_, 10.5) + 1.5};
             case Kind::Text:
-                return {usual_width, box_height};
+                return {usual_width, design.multi_line ? line_height_ * usual_text_lines + box_border : box_height};
             case Kind::Combo:
-                return {widest(control.List()) + arrows + 9, box_height};
+                return {design.width > 0 ? design.width : widest(control.List()) + arrows + 9, box_height};
             case Kind::List:
-                return {std::max(usual_width, widest(control.List()) + arrows + 9), line_height_ * usual_lines};
+                return {control.design().columns.empty() ? std::max(usual_width, widest(control.List()) + arrows + 9)
+                                                         : sum_of(control.design().columns) + arrows + 9,
+                        line_height_ * (usual_lines + (control.design().columns.empty() ? 0 : 1))};
             case Kind::Spin:
                 return {arrows, box_height};
             case Kind::Push:
@@ -166,6 +171,12 @@ class Arranger {
             }
         }
         return {};
+    }
+
+    [[nodiscard]] static double sum_of(std::span<const ListColumn> columns) {
+        double width = 0;
+        for (const ListColumn& column : columns) width += column.width;
+        return width;
     }
 
     [[nodiscard]] double widest(const std::vector<std::string>& items) const {

@@ -36,6 +36,9 @@ class Presenter {
     // does not take what is to stand in it.
     void present(Form& form);
 
+    // Whether forms are windows here, which a person can resize where their design has it.
+    [[nodiscard]] virtual bool has_windows() const { return false; }
+
     // Asks for a file: its path, or nothing when the person cancels. A presenter without file dialogs cancels.
     virtual std::optional<std::string> choose_file(const FileDialog& dialog) {
         static_cast<void>(dialog);

@@ -291,8 +291,13 @@ TEST(ConsoleForms, AreWrittenAndWorkedLineByLine) {
               "   5   Rows: \n"
               "   6 [ ] Bold\n"
               "   7 cmbColor: \n"
+              "          one of Red, Green, Grey\n"
               "   8 Look: \n"
+              "       #1   Red\n"
+              "       #2   Green\n"
+              "       #3   Grey\n"
               "   9 mpaMore: General\n"
+              "          one of General, Expert\n"
               "  10   [ ] Locked\n"
               "  OK (Enter) / Cancel, or NUMBER, NUMBER=VALUE? ");
     for (const char* line :
@@ -308,6 +313,71 @@ TEST(ConsoleForms, AreWrittenAndWorkedLineByLine) {
     ConsolePresenter alone(nothing, output);
     unanswered.Show(alone);
     EXPECT_EQ(unanswered.pressed(), &unanswered["btnCancel"]);
+}
+
+// A list with columns above a text that is only read.
+struct ListForm : Form {
+    static constexpr auto columns = std::to_array<ListColumn>({{"Cells", 60}, {"Formula", 90}});
+    static constexpr auto rows = std::to_array<ControlDesign>({
+        {.name = "lstCells", .kind = Kind::List, .stretch = Stretch::Both, .columns = columns},
+        {.name = "txtFormula", .kind = Kind::Text, .stretch = Stretch::Across, .multi_line = true, .locked = true},
+        {.name = "btnOK", .kind = Kind::Push, .caption = "OK", .role = Role::Default},
+    });
+    static constexpr FormDesign design_of_it{.name = "fList", .caption = "List", .controls = rows, .sizable = true};
+    ListForm() : Form(design_of_it) {
+        std::vector<std::string> lines{"A1\t=B1", "A10\t=B10*2", "Rates!A1"};
+        for (int i = 4; i <= 30; ++i) lines.push_back("C" + std::to_string(i) + "\t=1");
+        (*this)["lstCells"].List(std::move(lines));
+        on("btnOK", Event::Click, [this](EventCall&) { Unload(); });
+    }
+};
+
+TEST(ListForms, TakeItemsByTheFirstColumnOrByPlace) {
+    const struct {
+        const char* value;
+        std::int32_t index;
+        const char* problem;
+    } cases[] = {
+        {"a1", 0, ""},
+        {"A10", 1, ""},
+        {"rates", 2, ""},
+        {"#30", 29, ""},
+        {"D3", -1, "none of A1, A10, Rates!A1, C4"},
+        {"#31", -1, "and 10 more"},
+        {"#0", -1, "none of"},
+        {"#x", -1, "none of"},
+    };
+    for (const auto& [value, index, problem] : cases) {
+        ListForm form;
+        ScriptedPresenter presenter;
+        presenter.work_next([&, value = value, problem = problem](Form& shown) {
+            EXPECT_THAT(enter_value(shown, shown["lstCells"], value), HasSubstr(problem)) << value;
+        });
+        form.Show(presenter);
+        EXPECT_EQ(form["lstCells"].ListIndex(), index) << value;
+        if (index == 1) {
+            EXPECT_EQ(form["lstCells"].Value(), automation::Value("A10"));
+            EXPECT_EQ(form["lstCells"].item(1, 1), "=B10*2");
+        }
+    }
+}
+
+TEST(ListForms, AreWrittenAroundWhatIsChosenWithTheMarkInTheText) {
+    ListForm form;
+    form["lstCells"].ListIndex(20);
+    form["txtFormula"].Text("=\"\u00E9\U0001F4C8\"\n+Rates!A1*2");
+    form["txtFormula"].mark(8, 8);
+    std::istringstream input("2=other\n1=#2\n\n");
+    std::ostringstream output;
+    ConsolePresenter presenter(input, output);
+    form.Show(presenter);
+    EXPECT_THAT(output.str(), HasSubstr("          ... 10 before\n      #11   C11  =1\n"));
+    EXPECT_THAT(output.str(), HasSubstr("      #21 > C21  =1\n"));
+    EXPECT_THAT(output.str(), HasSubstr("txtFormula: =\"\u00E9\U0001F4C8\" +\u00ABRates!A1\u00BB*2\n"));
+    EXPECT_THAT(output.str(), HasSubstr("'2=other' the text can only be read."));
+    EXPECT_THAT(output.str(), HasSubstr("       #2 > A10  =B10*2\n"));
+    EXPECT_THAT(output.str(), HasSubstr("          ... 10 more\n"));
+    EXPECT_EQ(form["lstCells"].ListIndex(), 1);
 }
 
 }  // namespace
