@@ -1,8 +1,8 @@
 #include "smart/spacing/FormulaSpacing.h"
 
 #include <algorithm>
-#include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "automation/Conversion.h"
@@ -69,40 +69,70 @@ class Block {
         return shared_.spreadsheet().shift_formula(formula, rows_ ? by : 0, rows_ ? 0 : by, cell.top, cell.left);
     }
 
+    // Cells of a line, one after the other, that get the same formula in R1C1.
+    struct Run {
+        std::string formula;
+        std::int32_t cells;
+    };
+
     void fill_line(std::int32_t line, const std::string& formula, std::int32_t count) const {
         const std::int32_t first = group_size_ + 1;
-        std::vector<std::string> texts;
+        std::vector<Run> runs;
+        const auto add = [&](std::string text, std::int32_t cells) {
+            if (!runs.empty() && runs.back().formula == text)
+                runs.back().cells += cells;
+            else
+                runs.push_back({std::move(text), cells});
+        };
         for (std::int32_t step = first; step <= count;) {
             // Cells of one shift have one formula, but where it leads off the sheet.
             const std::int32_t by = spacing_shift(step, group_size_, adjustment_);
             std::int32_t last = step;
             while (last < count && spacing_shift(last + 1, group_size_, adjustment_) == by) ++last;
-            const std::string at_first = shifted(formula, step, line);
-            const bool alike = last == step || shifted(formula, last, line) == at_first;
-            for (; step <= last; ++step) texts.push_back(alike ? at_first : shifted(formula, step, line));
+            std::string at_first = shifted(formula, step, line);
+            if (last == step || shifted(formula, last, line) == at_first) {
+                add(std::move(at_first), last - step + 1);
+                step = last + 1;
+            } else {
+                for (; step <= last; ++step) add(shifted(formula, step, line), 1);
+            }
         }
-        write(line, first, texts);
+        write(line, first, std::move(runs));
     }
 
     // Excel refuses an array for one cell that cannot be written: the halves show which.
-    void write(std::int32_t line, std::int32_t first, std::span<const std::string> texts) const {
-        const auto count = static_cast<std::int32_t>(texts.size());
+    void write(std::int32_t line, std::int32_t first, std::vector<Run> runs) const {
+        std::int32_t count = 0;
+        for (const Run& run : runs) count += run.cells;
         const excel::Range cells = sheet_.Range(address_of(rectangle(first, line, first + count - 1, line)));
-        const ResumeNext attempt(shared_.trace);
-        const bool alike = std::ranges::all_of(texts, [&](const std::string& text) { return text == texts.front(); });
-        automation::Array block(automation::Array::Bound{1, rows_ ? count : 1},
-                                automation::Array::Bound{1, rows_ ? 1 : count});
-        std::ranges::copy(texts, block.elements().begin());
-        const Value content = alike ? Value(texts.front()) : Value(std::move(block));
+        Value content(runs.front().formula);
+        if (runs.size() > 1) {
+            automation::Array block(automation::Array::Bound{1, rows_ ? count : 1},
+                                    automation::Array::Bound{1, rows_ ? 1 : count});
+            auto element = block.elements().begin();
+            for (const Run& run : runs) element = std::fill_n(element, run.cells, Value(run.formula));
+            content = std::move(block);
+        }
         if (count == 1 || (sheet_.ProtectContents() && cells.Locked() == Value(true))) {
+            const ResumeNext attempt(shared_.trace);
             attempt([&] { cells.FormulaR1C1(content); });
             return;
         }
         const automation::Trace nobody;
         if (ResumeNext(nobody)([&] { cells.FormulaR1C1(content); })) return;
-        const std::size_t half = texts.size() / 2;
-        write(line, first, texts.first(half));
-        write(line, first + static_cast<std::int32_t>(half), texts.subspan(half));
+        const std::int32_t half = count / 2;
+        std::vector<Run> rest;
+        std::int32_t kept = 0;
+        for (auto run = runs.begin(); run != runs.end(); kept += run++->cells) {
+            if (kept + run->cells <= half) continue;
+            rest.assign(run, runs.end());
+            rest.front().cells = kept + run->cells - half;
+            run->cells = half - kept;
+            runs.erase(run->cells > 0 ? run + 1 : run, runs.end());
+            break;
+        }
+        write(line, first, std::move(runs));
+        write(line, first + half, std::move(rest));
     }
 
     const core::SharedState& shared_;
