@@ -24,12 +24,13 @@ inline void expect(bool holds, std::string_view promise, std::string_view text, 
 
 void formula(std::string_view text);
 void preferences(std::string_view edits);
+void vba(std::string_view bytes);
 void xml(std::string_view text);
 
 struct Target {
     std::string_view name;  // also of its folder below fuzz/corpus
     void (*run)(std::string_view input);
 };
-inline constexpr Target targets[] = {{"formula", formula}, {"preferences", preferences}, {"xml", xml}};
+inline constexpr Target targets[] = {{"formula", formula}, {"preferences", preferences}, {"vba", vba}, {"xml", xml}};
 
 }  // namespace kestrune::fuzz
