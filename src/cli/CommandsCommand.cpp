@@ -58,8 +58,7 @@ void list_commands(const CommandsOptions& options) {
                             {"group", text.group},
                             {"parameter", command.takes_parameter},
                             {"changes_workbook", command.touches.changes_workbook()},
-                            {"undo", command.touches.undoable()},
-                            {"available", command.body != nullptr}});
+                            {"undo", command.touches.undoable()}});
         }
         fmt::print("{}\n", rows.dump(1));
         return;
@@ -69,9 +68,8 @@ void list_commands(const CommandsOptions& options) {
         const brvblib::CommandText& text = text_of(command);
         if (text.group != group) fmt::print("{}{}\n", group.empty() ? "" : "\n", text.group);
         group = text.group;
-        fmt::print("{:>5}{:<3} {:<34} {:<20} {}{}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
-                   keys[static_cast<std::size_t>(command.number)], text.description, undo_note(command),
-                   command.body ? "" : " (not available yet)");
+        fmt::print("{:>5}{:<3} {:<34} {:<20} {}{}\n", command.number, command.takes_parameter ? ".n" : "", text.name,
+                   keys[static_cast<std::size_t>(command.number)], text.description, undo_note(command));
     }
 }
 

@@ -16,6 +16,7 @@
 #include "smart/copy/SmartCopy.h"
 #include "smart/fill/SmartFill.h"
 #include "smart/spacing/FormulaSpacing.h"
+#include "smart/trace/SmartTrace.h"
 #include "styles/commands/BorderCommands.h"
 #include "styles/commands/CellContentCommands.h"
 #include "styles/commands/FontAndTextCommands.h"
@@ -42,7 +43,6 @@ constexpr CommandNaming number_named = &styles::numeric_cycle_name<field>;
 template <smart::RowColumnCommand command>
 constexpr CommandBody grid = &smart::row_column_command<command>;
 
-constexpr CommandBody later = nullptr;
 constexpr bool plain = false;
 constexpr bool parameter = true;
 
@@ -79,8 +79,8 @@ constexpr std::array<Command, 103> table{{
     {4, &smart::SmartFormulaRowSpacing, plain, filled},  // Smart Formula Row Spacing
     {5, &smart::SmartFillDates, plain, recorded},  // Smart Fill Dates
     {6, &smart::SmartFillNumbers, plain, recorded},  // Smart Fill Numbers
-    {7, later, plain, nothing},  // Smart Precedents
-    {8, later, plain, nothing},  // Smart Dependents
+    {7, &smart::SmartPrecedents, plain, nothing},  // Smart Precedents
+    {8, &smart::SmartDependents, plain, nothing},  // Smart Dependents
     {9, set_bookmark, plain, names},  // Set Bookmark
     {10, next_bookmark, plain, nothing},  // Next Bookmark
     {11, previous_bookmark, plain, nothing},  // Previous Bookmark
@@ -178,13 +178,13 @@ constexpr std::array<Command, 103> table{{
 }};
 // clang-format on
 
-consteval bool numbered_from_zero_without_a_gap() {
+consteval bool complete_from_zero_without_a_gap() {
     for (std::size_t i = 0; i < table.size(); ++i) {
-        if (table[i].number != static_cast<std::int32_t>(i)) return false;
+        if (table[i].number != static_cast<std::int32_t>(i) || !table[i].body) return false;
     }
     return true;
 }
-static_assert(numbered_from_zero_without_a_gap());
+static_assert(complete_from_zero_without_a_gap());
 
 // The command of a number, by value.
 const Command* command_of(double number) {

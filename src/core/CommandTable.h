@@ -16,7 +16,7 @@ using CommandNaming = std::string (*)(const SharedState& state);
 // One numbered command. Its name, description and group stand in the general library's string table.
 struct Command {
     std::int32_t number = 0;
-    CommandBody body = nullptr;      // null: this version does not have the command yet
+    CommandBody body = nullptr;      // never null
     bool takes_parameter = false;    // the number after the full stop reaches the body
     Touches touches{};               // what it changes, of which undo has to know before
     CommandNaming naming = nullptr;  // its name as the user settings have it; null for the string table's

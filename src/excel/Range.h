@@ -21,6 +21,7 @@ class Range : public Facade<Range> {
   public:
     static constexpr std::string_view class_name = "Range";
     static constexpr auto members = std::to_array<MemberRow>({
+        {"Activate", Access::method},
         {"AddIndent", Access::get_put},
         {"Address", Access::get, "RowAbsolute ColumnAbsolute ReferenceStyle External RelativeTo"},
         {"Areas", Access::get},
@@ -88,6 +89,8 @@ class Range : public Facade<Range> {
     // Whether an object is a range: a selection may as well be a chart or a shape.
     static bool is(const ObjectRef& object) { return object && object->type_name() == class_name; }
 
+    // Makes a cell of the selection the active one; selects it when it is not part of that.
+    void Activate() const { call("Activate"); }
     [[nodiscard]] excel::Value AddIndent() const { return get("AddIndent"); }  // of distributed texts
     void AddIndent(excel::Value value) const { put("AddIndent", std::move(value)); }
     // "$B$2:$C$5", several areas parted by commas.

@@ -15,6 +15,8 @@ class Window : public Facade<Window> {
         {"ActiveSheet", Access::get},
         {"DisplayGridlines", Access::get_put},
         {"DisplayHeadings", Access::get_put},
+        {"ScrollColumn", Access::get_put},
+        {"ScrollRow", Access::get_put},
         {"WindowState", Access::get_put},
         {"Zoom", Access::get_put},
     });
@@ -25,6 +27,11 @@ class Window : public Facade<Window> {
     void DisplayGridlines(bool shown) const { put("DisplayGridlines", shown); }
     [[nodiscard]] bool DisplayHeadings() const { return get<bool>("DisplayHeadings"); }
     void DisplayHeadings(bool shown) const { put("DisplayHeadings", shown); }
+    // The first column and row that are seen, of the part that scrolls.
+    [[nodiscard]] std::int32_t ScrollColumn() const { return get<std::int32_t>("ScrollColumn"); }
+    void ScrollColumn(std::int32_t column) const { put("ScrollColumn", column); }
+    [[nodiscard]] std::int32_t ScrollRow() const { return get<std::int32_t>("ScrollRow"); }
+    void ScrollRow(std::int32_t row) const { put("ScrollRow", row); }
     [[nodiscard]] std::int32_t WindowState() const { return get<std::int32_t>("WindowState"); }  // XlWindowState
     void WindowState(std::int32_t state) const { put("WindowState", state); }
     // Per cent, 10 to 400; a write outside fails.

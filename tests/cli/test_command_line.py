@@ -326,7 +326,6 @@ class Refusing(CommandLineTest):
             ("NoSuchName", "@NoSuchName"),
             ("ZZZ9", "@Model!ZZZ9"),
             ("A1048577", "@A1048577"),
-            ("not available yet", "@A1", "8"),
         ]:
             self.refused(1, needle, "run", self.book, "-o", out, *steps)
             self.assertFalse(out.exists(), steps)

@@ -85,5 +85,35 @@ class Dialogs(unittest.TestCase):
             self.assertFalse(self.out.exists())
 
 
+    def test_references_lead_where_a_script_wants(self):
+        rates = openpyxl.Workbook()
+        rates.active.title = "FX"
+        rates.save(self.folder / "Rates.xlsx")
+        book = openpyxl.load_workbook(self.book)
+        book.create_sheet("Calc")["C4"] = "=Sheet!B2"
+        book["Sheet"]["C2"] = "=B2+Calc!$C$4"
+        book["Sheet"]["D2"] = f"='{self.folder}/[Rates.xlsx]FX'!$A$2+'/gone/[Lost.xlsx]P'!$A$1"
+        book.save(self.book)
+        for arguments, place in (
+                (("--set", "fSmartPrecedents.lstCells=calc", "@C2", "7"), "Calc!C4"),
+                (("--set", "fSmartDependents.cmbBox=#3", "@B2", "8"), "Calc!C4"),
+                (("--set", "fSmartDependents.lstBox=C2", "@B2", "8"), "Sheet!C2"),
+                (("--answer", "cancel", "@C2", "7"), None),
+                (("--answer", "no", "@D2", "7"), None)):
+            step = json.loads(self.run_tool("--json", *arguments).stdout)[1]
+            self.assertEqual(step.get("selection"), place, arguments)
+        # A workbook is opened from the path that the formula holds, and the session stays with its own.
+        told = self.run_tool("@D2", "7", "@C2").stdout
+        self.assertIn("7            Smart Precedents, to '[Rates.xlsx]FX'!A2  (", told)
+        self.assertIn("unable to open the workbook located at /gone/Lost.xlsx.  Please make sure the workbook", told)
+        self.assertIn("selected Sheet!C2", told)
+        self.assertIn(f"Formula: =\u00ab'{self.folder}/[Rates.xlsx]FX'!$A$2\u00bb+", told)
+        refused = self.run_tool("--set", "fSmartPrecedents.lstCells=Z9", "@C2", "7", status=2)
+        self.assertIn("fSmartPrecedents.lstCells=Z9: is none of B2, Calc!C4", refused.stderr)
+        told = self.run_tool("--answer", "ask", "@C2", "7", text_in="1=#2\nca\n")
+        self.assertIn("       #2 > Calc!C4  Calc!$C$4", told.stderr)
+        self.assertIn("Smart Precedents  (", told.stdout)
+
+
 if __name__ == "__main__":
     unittest.main()

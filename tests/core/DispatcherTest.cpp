@@ -118,15 +118,6 @@ TEST_F(DispatcherTest, PutsScreenUpdatingBackAsItWas) {
     EXPECT_FALSE(application->screen_updating);
 }
 
-TEST_F(DispatcherTest, TellsTheTraceOfACommandThatIsNotThereYet) {
-    start();
-    const auto missing = std::ranges::find(commands(), nullptr, &Command::body);
-    if (missing == commands().end()) GTEST_SKIP() << "every command is there";
-    const std::string number = std::to_string(missing->number);
-    EXPECT_TRUE(run(number));
-    EXPECT_THAT(skipped, ElementsAre("command " + number + " is not in this version"));
-}
-
 TEST_F(DispatcherTest, FailsOnlyWhereTheCallItselfIsWrong) {
     start();
     EXPECT_THROW(automation::call(*global, "RunMacro"), automation::AutomationError);

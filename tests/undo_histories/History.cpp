@@ -30,7 +30,7 @@ const std::vector<std::int32_t>& undoable_commands() {
     static const std::vector<std::int32_t> numbers = [] {
         std::vector<std::int32_t> found;
         for (const core::Command& command : core::commands()) {
-            if (command.body && command.touches.undoable()) found.push_back(command.number);
+            if (command.touches.undoable()) found.push_back(command.number);
         }
         return found;
     }();

@@ -13,15 +13,13 @@ namespace kestrune::cli {
 namespace {
 
 // What a key's macro is called: the command whose number it is given, else the macro's own name.
-std::string name_of(const std::string& macro, const std::string& key) {
+std::string name_of(const std::string& macro) {
     const auto call = host::MacroCall::parse(macro);
     if (!call) return macro;
     if (call->arguments.empty()) return call->name.substr(call->name.rfind('.') + 1);
     const core::Command* command = core::resolve(call->arguments.front(), automation::Trace{}).command;
     if (!command) return macro;
-    const std::string name(brvblib::command_texts[static_cast<std::size_t>(command->number)].name);
-    if (!command->body) throw Failure(fmt::format("key:{}: {} is not available yet", key, name));
-    return name;
+    return std::string(brvblib::command_texts[static_cast<std::size_t>(command->number)].name);
 }
 
 }  // namespace
@@ -30,7 +28,7 @@ KeyReport run_key_step(OpenWorkbook& book, const keys::Key& key) {
     using Effect = host::KeyPress::Effect;
     KeyReport report{keys::key_text(key), {}, true};
     const auto bound = book.session().bound_keys.find(key);
-    if (bound != book.session().bound_keys.end()) report.did = name_of(bound->second, report.key);
+    if (bound != book.session().bound_keys.end()) report.did = name_of(bound->second);
     const host::KeyPress press = book.press(key);
     switch (press.effect) {
         case Effect::Bound:

@@ -146,6 +146,7 @@ class Session {
         form_facts_ = ordered_json::array();
         refusals_.clear();
         const std::int32_t looked_at = book.model().active_sheet;
+        const std::string selected = selection_text(book);
         const std::int64_t before = book.session().calls();
         bool ran = true;
         std::string what;
@@ -155,7 +156,6 @@ class Session {
             select_cells(book, select->target);
         } else if (const auto* request = std::get_if<RequestStep>(&step)) {
             what = brvblib::command_texts[static_cast<std::size_t>(request->command->number)].name;
-            if (!request->command->body) throw Failure(fmt::format("{}: {} is not available yet", text, what));
             ran = automation::to_boolean(automation::call(add_in.commands(), "RunMacro", {request->request}));
             if (!ran) what += ": a command may not run now";
         } else if (const auto* member = std::get_if<MemberStep>(&step)) {
@@ -176,13 +176,18 @@ class Session {
         } else if (!std::holds_alternative<HistoryStep>(step) && book.model().active_sheet != looked_at) {
             moved_ = true;
         }
+        // Where the person is now, when the step took them elsewhere.
+        std::string gone_to = std::holds_alternative<SelectStep>(step) ? selected : selection_text(book);
+        if (gone_to == selected) gone_to.clear();
         tell_refusals(text);
         if (options_.json) {
             ordered_json entry = describe(text, ran, calls);
+            if (!gone_to.empty()) entry["selection"] = gone_to;
             entry.update(history.facts);
             if (key) entry.update({{"key", key->key}, {"did", key->did}});
             return entry;
         }
+        if (!gone_to.empty()) what += fmt::format(", to {}", gone_to);
         tell(text, what, calls);
         for (const std::string& line : history.lines) fmt::print("             {}\n", line);
         return {};

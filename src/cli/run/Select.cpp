@@ -71,8 +71,11 @@ std::string selection_text(OpenWorkbook& book) {
     const automation::ObjectRef selection = book.application().Selection();
     if (!excel::Range::is(selection)) return "no cells";
     const excel::Range range(selection);
-    return fmt::format("{}!{}", formula::quoted_sheet(range.Worksheet().Name()),
-                       range.Address(false, false, excel::xlA1, false));
+    std::string sheet = range.Worksheet().Name();
+    // A command may have gone to another workbook.
+    const std::string workbook = book.application().ActiveWorkbook().Name();
+    if (workbook != book.model().name) sheet = fmt::format("[{}]{}", workbook, sheet);
+    return fmt::format("{}!{}", formula::quoted_sheet(sheet), range.Address(false, false, excel::xlA1, false));
 }
 
 }  // namespace kestrune::cli

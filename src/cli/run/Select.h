@@ -14,7 +14,7 @@ excel::Range find_cells(OpenWorkbook& book, const std::string& target);
 // Makes these cells the selection, on their sheet.
 void select_cells(OpenWorkbook& book, const std::string& target);
 
-// "Model!B4:F20": what is selected, for a person.
+// "Model!B4:F20": what is selected, for a person; "'[Rates.xlsx]FX'!A2" in another workbook than the given one.
 std::string selection_text(OpenWorkbook& book);
 
 }  // namespace kestrune::cli
