@@ -1,6 +1,6 @@
 #include "fuzz/targets.h"
-#include "vba/Compression.h"
 #include "vba/CompoundFile.h"
+#include "vba/Compression.h"
 #include "vba/Project.h"
 #include "vba/VbaError.h"
 

@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::string_view version = KESTRUNE_VERSION;
 constexpr std::string_view version_mark = "@VERSION@";
-constexpr auto document_bases = std::to_array<std::string_view>(
-    {"\nAttribute VB_Base = \"0{00020819-", "\nAttribute VB_Base = \"0{00020820-"});
+constexpr auto document_bases =
+    std::to_array<std::string_view>({"\nAttribute VB_Base = \"0{00020819-", "\nAttribute VB_Base = \"0{00020820-"});
 
 // The workbook's parts: file below parts, name in the package, content type, who refers to it, by which relationship.
 struct Part {

@@ -57,8 +57,7 @@ int run(const std::vector<std::string>& arguments) {
     } else if (command == "project" && arguments.size() > 3) {
         std::vector<vba::Module> modules;
         for (std::size_t i = 3; i < arguments.size(); ++i) modules.push_back(module_of(arguments[i]));
-        write_file(arguments[2],
-                   vba::write_compound(vba::write_project(project_of(arguments[1], std::move(modules)))));
+        write_file(arguments[2], vba::write_compound(vba::write_project(project_of(arguments[1], std::move(modules)))));
     } else if (command == "list" && arguments.size() == 2) {
         list(arguments[1]);
     } else if (command == "show" && arguments.size() == 3) {

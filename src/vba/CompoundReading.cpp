@@ -150,8 +150,8 @@ class CompoundReader {
         std::sort(storage.children.begin(), storage.children.end(), [](const Entry& a, const Entry& b) {
             return compare_names(directory_name(a.name), directory_name(b.name)) < 0;
         });
-        const auto twice = std::adjacent_find(
-            storage.children.begin(), storage.children.end(), [](const Entry& a, const Entry& b) {
+        const auto twice =
+            std::adjacent_find(storage.children.begin(), storage.children.end(), [](const Entry& a, const Entry& b) {
                 return compare_names(directory_name(a.name), directory_name(b.name)) == 0;
             });
         if (twice != storage.children.end()) broken("two entries are called " + twice->name);

@@ -49,9 +49,8 @@ class Directory {
         }
         std::vector<std::uint32_t> order(storage.children.size());
         std::iota(order.begin(), order.end(), first);
-        std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
-            return compare_names(rows[a].name, rows[b].name) < 0;
-        });
+        std::sort(order.begin(), order.end(),
+                  [&](std::uint32_t a, std::uint32_t b) { return compare_names(rows[a].name, rows[b].name) < 0; });
         for (std::size_t i = 1; i < order.size(); ++i) {
             if (compare_names(rows[order[i - 1]].name, rows[order[i]].name) == 0) {
                 throw VbaError("two streams are called " + rows[order[i]].entry->name);
@@ -150,7 +149,8 @@ std::string write_compound(const Entry& root) {
 
     std::string out(signature);
     out.append(16, '\0');
-    for (const std::uint16_t number : {minor_version, std::uint16_t{3}, byte_order, std::uint16_t{9}, std::uint16_t{6}}) {
+    for (const std::uint16_t number :
+         {minor_version, std::uint16_t{3}, byte_order, std::uint16_t{9}, std::uint16_t{6}}) {
         put(out, number);
     }
     out.append(10, '\0');  // reserved, and the count of directory sectors, which version 3 leaves at 0

@@ -10,8 +10,8 @@ namespace kestrune::vba {
 
 std::string compress(std::string_view text);
 
-// Takes a compressed container back; throws VbaError for anything else, and beyond `limit` bytes of result. A last chunk
-// that does not get smaller is stored whole, with zeros up to 4096 bytes, and comes back with them.
+// Takes a compressed container back; throws VbaError for anything else, and beyond `limit` bytes of result. A last
+// chunk that does not get smaller is stored whole, with zeros up to 4096 bytes, and comes back with them.
 std::string decompress(std::string_view bytes, std::size_t limit = std::size_t{64} << 20);
 
 }  // namespace kestrune::vba

@@ -16,9 +16,9 @@ constexpr bool same_name(std::string_view left, std::string_view right) {
 constexpr bool is_letter(char c) { return lower(c) >= 'a' && lower(c) <= 'z'; }
 
 constexpr bool is_identifier(std::string_view name) {
-    return !name.empty() && name.size() <= 31 && is_letter(name[0]) && std::all_of(name.begin(), name.end(), [](char c) {
-        return is_letter(c) || (c >= '0' && c <= '9') || c == '_';
-    });
+    return !name.empty() && name.size() <= 31 && is_letter(name[0]) &&
+           std::all_of(name.begin(), name.end(),
+                       [](char c) { return is_letter(c) || (c >= '0' && c <= '9') || c == '_'; });
 }
 
 }  // namespace kestrune::vba

@@ -9,8 +9,8 @@
 
 namespace kestrune::vba {
 
-// A module of a Visual Basic project as text. Its attribute lines, which no editor shows, are part of the code, as in an
-// exported .bas or .cls file.
+// A module of a Visual Basic project as text. Its attribute lines, which no editor shows, are part of the code, as in
+// an exported .bas or .cls file.
 struct Module {
     enum class Kind { Standard, Class, Document };
     std::string name;

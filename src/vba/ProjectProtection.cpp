@@ -23,7 +23,9 @@ std::size_t ignored_bytes(std::uint8_t seed) { return (seed & 6U) / 2; }
 class Mixer {
   public:
     Mixer(std::uint8_t key, std::uint8_t seed)
-        : plain_(key), last_(static_cast<std::uint8_t>(seed ^ key)), before_(static_cast<std::uint8_t>(seed ^ version)) {}
+        : plain_(key),
+          last_(static_cast<std::uint8_t>(seed ^ key)),
+          before_(static_cast<std::uint8_t>(seed ^ version)) {}
 
     std::uint8_t scrambled(std::uint8_t byte) {
         const auto mixed = static_cast<std::uint8_t>(byte ^ mask());
@@ -60,7 +62,9 @@ std::string scramble(std::string_view data, std::string_view project_id, std::ui
         out += hexadecimal[byte >> 4];
         out += hexadecimal[byte & 15];
     };
-    for (const unsigned byte : std::to_array<unsigned>({seed, static_cast<unsigned>(seed ^ version), static_cast<unsigned>(seed ^ key)})) show(byte);
+    for (const unsigned byte :
+         std::to_array<unsigned>({seed, static_cast<unsigned>(seed ^ version), static_cast<unsigned>(seed ^ key)}))
+        show(byte);
     Mixer mixer(key, seed);
     for (const char c : plain) show(mixer.scrambled(static_cast<std::uint8_t>(c)));
     return out;

@@ -44,18 +44,32 @@ Directory read_directory(std::string_view bytes) {
         }
         const std::string_view data = in.take(length);
         switch (id) {
-            case DirRecord::Name: directory.name = data; break;
-            case DirRecord::Description: directory.description = data; break;
-            case DirRecord::ModuleName: module = Listed{.name = std::string(data), .stream = std::string(data)}; break;
-            case DirRecord::ModuleStream: current().stream = data; break;
-            case DirRecord::ModuleOffset: current().offset = Reader(data).u32(); break;
-            case DirRecord::ModuleStandard: current().standard = true; break;
+            case DirRecord::Name:
+                directory.name = data;
+                break;
+            case DirRecord::Description:
+                directory.description = data;
+                break;
+            case DirRecord::ModuleName:
+                module = Listed{.name = std::string(data), .stream = std::string(data)};
+                break;
+            case DirRecord::ModuleStream:
+                current().stream = data;
+                break;
+            case DirRecord::ModuleOffset:
+                current().offset = Reader(data).u32();
+                break;
+            case DirRecord::ModuleStandard:
+                current().standard = true;
+                break;
             case DirRecord::ModuleTerminator:
                 directory.modules.push_back(current());
                 module.reset();
                 break;
-            case DirRecord::Terminator: return directory;
-            default: break;
+            case DirRecord::Terminator:
+                return directory;
+            default:
+                break;
         }
     }
 }

@@ -86,9 +86,15 @@ std::string project_stream(const Project& project) {
     std::string out = fmt::format("ID=\"{}\"\r\n", project.id);
     for (const Module& module : project.modules) {
         switch (module.kind) {
-            case Module::Kind::Standard: out += fmt::format("Module={}\r\n", module.name); break;
-            case Module::Kind::Class: out += fmt::format("Class={}\r\n", module.name); break;
-            case Module::Kind::Document: out += fmt::format("Document={}/&H00000000\r\n", module.name); break;
+            case Module::Kind::Standard:
+                out += fmt::format("Module={}\r\n", module.name);
+                break;
+            case Module::Kind::Class:
+                out += fmt::format("Class={}\r\n", module.name);
+                break;
+            case Module::Kind::Document:
+                out += fmt::format("Document={}/&H00000000\r\n", module.name);
+                break;
         }
     }
     out += fmt::format("Name=\"{}\"\r\nHelpContextID=\"0\"\r\n", project.name);

@@ -199,8 +199,8 @@ TEST_F(SmartTraceTest, AsksOnceAboutAllClosedWorkbooksAndOpensThem) {
     cells("B2").Formula("=A1+" + std::string(to_rates) + "+'/data/[Old.xlsx]First'!A1+" + to_rates +
                         "+'/gone/[Lost.xlsx]P'!C1");
     presenter.work_next([&](Form& form) {
-        EXPECT_THAT(listed(form, "lstCells"), ElementsAre("A1", "[Rates.xlsx]First!B2", "[Old.xlsx]First!A1",
-                                                          "[Lost.xlsx]P!C1"));
+        EXPECT_THAT(listed(form, "lstCells"),
+                    ElementsAre("A1", "[Rates.xlsx]First!B2", "[Old.xlsx]First!A1", "[Lost.xlsx]P!C1"));
         EXPECT_THAT(where(), HasSubstr("[Model.xlsx]Sheet1!A1 ")) << "not what was opened last";
         form.choose(form["lstCells"], 3);
         EXPECT_EQ(form["lblNote"].Caption(), "The workbook 'Lost.xlsx' is not open.");

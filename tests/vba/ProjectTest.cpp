@@ -30,7 +30,8 @@ TEST(Compression, IsMicrosofts) {
         {"abcdefghijklmnopqrstuv.",
          "01 19 B0 00 61 62 63 64 65 66 67 68 00 69 6A 6B 6C 6D 6E 6F 70 00 71 72 73 74 75 76 2E"},
         {"#aaabcdefaaaaghijaaaaaklaaamnopqaaaaaaaaaaaarstuvwxyzaaa",
-         "01 2F B0 00 23 61 61 61 62 63 64 65 82 66 00 70 61 67 68 69 6A 01 38 08 61 6B 6C 00 30 6D 6E 6F 70 06 71 02 70 "
+         "01 2F B0 00 23 61 61 61 62 63 64 65 82 66 00 70 61 67 68 69 6A 01 38 08 61 6B 6C 00 30 6D 6E 6F 70 06 71 02 "
+         "70 "
          "04 10 72 73 74 75 76 10 77 78 79 7A 00 3C"},
         {std::string(73, 'a'), "01 03 B0 02 61 45 00"},
     };
@@ -147,16 +148,17 @@ TEST(CompoundFile, SurvivesDamage) {
 }
 
 TEST(Project, ComesBackAsItWasWritten) {
-    const Project project{.name = "Kestrune",
-                          .description = "What it is",
-                          .id = "{6E0A5C3B-2D41-4B8E-9F57-1C83A4D7E260}",
-                          .major = 70000,
-                          .minor = 3,
-                          .modules = {module_of_file("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1\nEND\n"
-                                                     "Attribute VB_Name = \"ThisWorkbook\"\nSub A()\nEnd Sub",
-                                                     Module::Kind::Document, "f"),
-                                      module_of_file("Attribute VB_Name = \"mDOM\"\r\n'a\r\n", Module::Kind::Standard, "f"),
-                                      {"cThing", Module::Kind::Class, ""}}};
+    const Project project{
+        .name = "Kestrune",
+        .description = "What it is",
+        .id = "{6E0A5C3B-2D41-4B8E-9F57-1C83A4D7E260}",
+        .major = 70000,
+        .minor = 3,
+        .modules = {module_of_file("VERSION 1.0 CLASS\nBEGIN\n  MultiUse = -1\nEND\n"
+                                   "Attribute VB_Name = \"ThisWorkbook\"\nSub A()\nEnd Sub",
+                                   Module::Kind::Document, "f"),
+                    module_of_file("Attribute VB_Name = \"mDOM\"\r\n'a\r\n", Module::Kind::Standard, "f"),
+                    {"cThing", Module::Kind::Class, ""}}};
     const Project back = read_project(read_compound(write_compound(write_project(project))));
     EXPECT_EQ(back.name, project.name);
     EXPECT_EQ(back.description, project.description);

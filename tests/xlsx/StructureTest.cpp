@@ -168,6 +168,11 @@ TEST_F(Structure, PartsBesideTheSheetFollow) {
           R"(<table displayName="T" ref="A2:B5" totalsRowCount="1"><autoFilter ref="A2:B4"/><tableColumns count="2"><tableColumn id="1" name="a"/><tableColumn id="4" name="Column1"/></tableColumns></table>)"},
          in,
          R"(ref="A2:B7" totalsRowCount="1"><autoFilter ref="A2:B6"/>)"},
+        // Rows that come in before the totals are data.
+        {{"tables/table1.xml", table_type, "table",
+          R"(<table displayName="T" ref="A2:B5" totalsRowCount="1"><autoFilter ref="A2:B4"/><tableColumns count="2"><tableColumn id="1" name="a"/><tableColumn id="4" name="Column1"/></tableColumns></table>)"},
+         {Kind::insert_rows, "One", 5, 1},
+         R"(ref="A2:B6" totalsRowCount="1"><autoFilter ref="A2:B5"/>)"},
         {{"tables/table1.xml", table_type, "table",
           R"(<table displayName="T" ref="A2:B5"><tableColumns count="2"><tableColumn id="1" name="a"/><tableColumn id="4" name="Column1"/></tableColumns></table>)"},
          {Kind::insert_columns, "One", 2, 1},

@@ -90,8 +90,8 @@ std::vector<CellLink> of_closed_workbooks(const excel::Application& application,
     const std::vector<std::string> open = open_workbooks(application);
     std::vector<CellLink> closed;
     for (const CellLink& link : links) {
-        const bool known = std::ranges::any_of(
-            closed, [&](const CellLink& one) { return same_text(path_of(one), path_of(link)); });
+        const bool known =
+            std::ranges::any_of(closed, [&](const CellLink& one) { return same_text(path_of(one), path_of(link)); });
         if (!known && !holds(open, link.workbook)) closed.push_back(link);
     }
     return closed;

@@ -98,11 +98,11 @@ void TraceForm::go() {
         if (index < 0) return Unload();
         CellLink link = links_[static_cast<std::size_t>(index)];
         if (!is_open(application(), link.workbook)) {
-            const auto answer = forms::MsgBox(
-                shared_.presenter,
-                "The reference you selected is to a range in a workbook that is not currently open ('" +
-                    link.workbook + "').  Would you like to open it now?",
-                forms::vbYesNo, core::product_title);
+            const auto answer =
+                forms::MsgBox(shared_.presenter,
+                              "The reference you selected is to a range in a workbook that is not currently open ('" +
+                                  link.workbook + "').  Would you like to open it now?",
+                              forms::vbYesNo, core::product_title);
             if (answer != forms::vbYes) return;
             if (!open(link, ".  Please make sure the requested workbook has not been deleted or moved.")) return;
             const auto now = opened(link);

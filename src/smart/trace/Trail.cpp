@@ -11,8 +11,7 @@ namespace kestrune::smart {
 
 using automation::ResumeNext;
 
-Trail::Trail(const core::SharedState& shared)
-    : application_(shared.application), attempt_(shared.trace) {
+Trail::Trail(const core::SharedState& shared) : application_(shared.application), attempt_(shared.trace) {
     attempt_([&] {
         const excel::Workbook workbook = application_.ActiveWorkbook();
         note_book(workbook);

@@ -33,10 +33,8 @@ constexpr auto own_controls = std::to_array<ControlDesign>({
 
 constexpr auto controls = forms::joined(own_controls, trace_controls, forms::ok_and_cancel);
 
-constexpr forms::FormDesign form_design{.name = "fSmartDependents",
-                                        .caption = "BR Kestrune -- Smart Dependents",
-                                        .controls = controls,
-                                        .sizable = true};
+constexpr forms::FormDesign form_design{
+    .name = "fSmartDependents", .caption = "BR Kestrune -- Smart Dependents", .controls = controls, .sizable = true};
 
 std::string counted(const std::string& what, std::size_t count) { return what + " (" + std::to_string(count) + ")"; }
 

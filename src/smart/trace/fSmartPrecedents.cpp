@@ -33,10 +33,8 @@ constexpr auto own_controls = std::to_array<ControlDesign>({
 
 constexpr auto controls = forms::joined(own_controls, trace_controls, forms::ok_and_cancel);
 
-constexpr forms::FormDesign form_design{.name = "fSmartPrecedents",
-                                        .caption = "BR Kestrune -- Smart Precedents",
-                                        .controls = controls,
-                                        .sizable = true};
+constexpr forms::FormDesign form_design{
+    .name = "fSmartPrecedents", .caption = "BR Kestrune -- Smart Precedents", .controls = controls, .sizable = true};
 
 }  // namespace
 
@@ -92,8 +90,7 @@ std::string fSmartPrecedents::value_of(const CellLink& link) const {
     const ResumeNext attempt(nobody);
     std::string value;
     attempt.assign(value, [&] {
-        const excel::Worksheet sheet =
-            application().Workbooks().Item(link.workbook).Worksheets().Item(link.sheet);
+        const excel::Worksheet sheet = application().Workbooks().Item(link.workbook).Worksheets().Item(link.sheet);
         return automation::to_text(sheet.Range(link.address).Text());
     });
     return value;

@@ -218,6 +218,14 @@ void move_table(Moving& moving, const MovingPart& part) {
         if (!formula::adjust_area(*area, moving.edit)) return;
     }
     places.move(*tree);
+    // A table is filtered from its headers to its last row of data, wherever rows came in.
+    const auto now = parse_area(table.attribute("ref").value());
+    const pugi::xml_node filter = child_named(table, "autoFilter");
+    if (now && filter) {
+        Area filtered = *now;
+        filtered.last_row -= table.attribute("totalsRowCount").as_int(0);
+        places.set(filter.attribute("ref"), formula::area_text(filtered));
+    }
     if (places.changed()) replace(moving, part, *tree);
 }
 
