@@ -7,9 +7,11 @@
 #include <string_view>
 #include <vector>
 
+#include "brvblib/CommandTexts.h"
 #include "companion/AddInWorkbook.h"
 #include "companion/Files.h"
 #include "companion/Macros.h"
+#include "companion/Workbook97.h"
 #include "host/xlsx/package/Package.h"
 
 namespace kestrune::companion {
@@ -18,6 +20,8 @@ namespace {
 constexpr const char* usage =
     "usage: kestrune-companion add-in FOLDER TARGET.xlam    the companion workbook, of modules and parts in a folder\n"
     "       kestrune-companion project NAME TARGET.bin MODULE...    a Visual Basic project, of .bas and .cls files\n"
+    "       kestrune-companion add-macros WORKBOOK.xls PROJECT.bin TARGET.xls    puts a project into a workbook\n"
+    "       kestrune-companion commands                     the commands: number, name, description, key, topic\n"
     "       kestrune-companion list WORKBOOK                its modules and their procedures\n"
     "       kestrune-companion show WORKBOOK MODULE         the text of one\n";
 
@@ -50,6 +54,13 @@ void show(const std::string& file, std::string_view name) {
     throw std::runtime_error(fmt::format("{}: has no module {}", file, name));
 }
 
+void commands() {
+    int number = 0;
+    for (const brvblib::CommandText& text : brvblib::command_texts) {
+        fmt::print("{}\t{}\t{}\t{}\t{}\n", number++, text.name, text.description, text.key, text.topic);
+    }
+}
+
 int run(const std::vector<std::string>& arguments) {
     const std::string_view command = arguments.empty() ? std::string_view() : arguments[0];
     if (command == "add-in" && arguments.size() == 3) {
@@ -58,6 +69,10 @@ int run(const std::vector<std::string>& arguments) {
         std::vector<vba::Module> modules;
         for (std::size_t i = 3; i < arguments.size(); ++i) modules.push_back(module_of(arguments[i]));
         write_file(arguments[2], vba::write_compound(vba::write_project(project_of(arguments[1], std::move(modules)))));
+    } else if (command == "add-macros" && arguments.size() == 4) {
+        write_file(arguments[3], with_macros(content_of(arguments[1]), content_of(arguments[2]), arguments[1]));
+    } else if (command == "commands" && arguments.size() == 1) {
+        commands();
     } else if (command == "list" && arguments.size() == 2) {
         list(arguments[1]);
     } else if (command == "show" && arguments.size() == 3) {

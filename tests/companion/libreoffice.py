@@ -49,8 +49,11 @@ def desktop(pipe, office):
 
 
 def check(top, workbook, macro, expected):
-    options = [PropertyValue(Name=name, Value=value)
-               for name, value in (("Hidden", True), ("MacroExecutionMode", ALWAYS_EXECUTE), ("FilterName", "Calc MS Excel 2007 VBA XML"))]
+    # LibreOffice goes by names, and knows neither .xlam nor an Office Open XML workbook that is called .xls.
+    packed = Path(workbook).read_bytes().startswith(b"PK")
+    wanted = {"Hidden": True, "MacroExecutionMode": ALWAYS_EXECUTE,
+              "FilterName": "Calc MS Excel 2007 VBA XML" if packed else "MS Excel 97"}
+    options = [PropertyValue(Name=name, Value=value) for name, value in wanted.items()]
     document = top.loadComponentFromURL(Path(workbook).resolve().as_uri(), "_blank", 0, tuple(options))
     if document is None:
         sys.exit(f"{workbook}: LibreOffice does not open it")
@@ -63,7 +66,7 @@ def check(top, workbook, macro, expected):
             modules.update({module: library.getByName(module) for module in library.ElementNames})
             if macro.split(".")[0] in library.ElementNames:
                 home = name
-        print(f"{Path(workbook).name}:")
+        print(f"{Path(workbook).name}: {document.Sheets.Count} sheets, {document.NamedRanges.Count} names")
         for name, text in modules.items():
             procedures = re.findall(r"^(?:Public |Private )?(?:Sub|Function) (\w+)", text, re.M)
             print(f"    {name}: {', '.join(procedures) or 'no procedures'}")

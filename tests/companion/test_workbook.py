@@ -89,6 +89,9 @@ class Companion(unittest.TestCase):
         self.assertIn("styles.xml: cannot be read", error)
         self.assertFalse(target.exists())
         self.assertEqual(program("list", SOURCE / "README.md")[0], 1)
+        status, _, error = program("add-macros", self.book, self.book, target)
+        self.assertEqual((status, error), (1, f"kestrune-companion: {self.book}: the data is no compound file\n"))
+        self.assertFalse(target.exists())
         self.assertEqual(program("list")[0], 2)
 
 
