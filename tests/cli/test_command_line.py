@@ -3,6 +3,7 @@
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import tempfile
@@ -448,6 +449,22 @@ class Telling(CommandLineTest):
         self.assertIn("$11", html)
         self.assertNotIn("It&#39;s hidden", html)
         self.assertIn("<label", html)
+
+    def test_shows_numbers_that_have_no_room_as_excel_does(self):
+        book = self.folder / "narrow.xlsx"
+        workbook = openpyxl.Workbook()
+        sheet = workbook.active
+        for column, width in (("A", 4), ("B", 4), ("C", 4), ("D", 12)):
+            sheet[column + "1"] = 123456.75
+            sheet[column + "1"].number_format = "General" if column == "B" else "#,##0.00"
+            sheet.column_dimensions[column].width = width
+        sheet["B1"] = 1.23456789
+        sheet["C1"].alignment = openpyxl.styles.Alignment(shrink_to_fit=True)
+        workbook.save(book)
+        page = self.folder / "narrow.html"
+        self.run_ok("show", book, "--html", page)
+        cells = re.findall(r"<td[^>]*>(?:<div>)?([^<]*)", page.read_text())
+        self.assertEqual([cell for cell in cells if cell], ["###", "1.2", "123,456.75", "123,456.75"])
 
     def test_shows_what_autocolor_sees(self):
         plain = self.run_ok("show", self.book, "--classes").stdout.splitlines()

@@ -1,5 +1,8 @@
 #include "cli/show/Appearance.h"
 
+#include <algorithm>
+
+#include "host/model/TextWidth.h"
 #include "host/objects/ErrorValues.h"
 
 namespace kestrune::cli {
@@ -45,6 +48,7 @@ void SheetAppearance::write_text(Appearance& look, formula::Position position, h
         }
         case host::CellKind::Number:
             shown = format.render(content.number, {.date1904 = workbook_.date1904, .width = std::nullopt});
+            fit_number(shown, content.number, position, style);
             break;
         case host::CellKind::Boolean:
             shown = format.render_boolean(content.boolean);
@@ -60,6 +64,24 @@ void SheetAppearance::write_text(Appearance& look, formula::Position position, h
     look.blank = look.text.empty();
     look.fill_at = shown.fill_at;
     if (shown.colour) look.font_color = workbook_.palette[static_cast<std::size_t>(*shown.colour - 1)];
+}
+
+void SheetAppearance::fit_number(host::Rendered& shown, double value, formula::Position position, host::StyleId style) {
+    const host::Alignment& alignment = workbook_.styles.formats[style].alignment;
+    if (alignment.shrink || alignment.rotation != 0) return;
+    const auto merged = sheet_.merge_at(position);
+    const std::int32_t last_column = merged ? merged->last_column : position.column;
+    double room = -host::cell_padding;
+    for (std::int32_t column = position.column; column <= last_column; ++column) room += sheet_.column_pixels(column);
+    const host::Font& font = workbook_.styles.font_of(style);
+    // Widths are estimates: in doubt a number is shown.
+    constexpr double doubt = 1.1;
+    if (room <= 0 || host::text_pixels(shown.text, font) <= room * doubt) return;
+    const int digits = static_cast<int>(room / host::text_pixels("0", font));
+    shown = format_of(style).render(value, {.date1904 = workbook_.date1904, .width = digits});
+    if (!shown.text.empty() && host::text_pixels(shown.text, font) <= room * doubt) return;
+    shown = {};
+    shown.text = std::string(static_cast<std::size_t>(std::max(digits, 1)), '#');
 }
 
 Appearance SheetAppearance::at(formula::Position position) {

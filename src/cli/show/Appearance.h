@@ -50,6 +50,8 @@ class SheetAppearance {
   private:
     [[nodiscard]] const host::NumberFormat& format_of(host::StyleId style);
     void write_text(Appearance& look, formula::Position position, host::StyleId style);
+    // A number that its column has no room for: rounded where the format leaves that open, else a row of #.
+    void fit_number(host::Rendered& shown, double value, formula::Position position, host::StyleId style);
     void lay_fill(Appearance& look, const host::Fill& fill) const;
     void lay_conditional_formats(Appearance& look, formula::Position position);
 

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "host/model/ColumnWidth.h"
-#include "host/model/DigitWidth.h"
+#include "host/model/TextWidth.h"
 #include "host/objects/CellReader.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/Refusal.h"
@@ -16,29 +16,11 @@ namespace {
 constexpr double points_per_pixel = 0.75;  // at 96 dpi
 constexpr double tallest_row = 409.5;      // points
 constexpr double widest_column = 255;      // characters
-constexpr double padding = 5;              // pixels beside a text
 
 // The height that a line of text takes, pixels: what Excel gives the usual fonts, within a pixel.
 double line_pixels(const Font& font) {
     const bool roomy = font.name == "Calibri" || font.name == "Cambria" || font.name.starts_with("Aptos");
     return std::round(font.size / points_per_pixel * (roomy ? 1.22 : 1.15)) + 2;
-}
-
-// A text's width in pixels, told by how wide its characters mostly are beside a digit.
-double text_pixels(std::string_view text, const Font& font) {
-    constexpr std::string_view narrow = "iljtf.,:;'|!()[] ";
-    constexpr std::string_view wide = "MWmw@%";
-    double digits = 0;
-    for (const char c : text) {
-        if ((static_cast<unsigned char>(c) & 0xC0U) == 0x80) continue;  // the rest of a character that has counted
-        if (narrow.find(c) != std::string_view::npos)
-            digits += 0.55;
-        else if (wide.find(c) != std::string_view::npos)
-            digits += 1.5;
-        else
-            digits += c >= 'A' && c <= 'Z' ? 1.2 : 1;
-    }
-    return digits * digit_pixels_of(font.name, font.size) * (font.bold ? 1.06 : 1);
 }
 
 // How many lines a text takes that breaks between words, and inside one that is too long.
@@ -97,9 +79,9 @@ void RangeObject::fit_rows(const Area& area) {
             const std::string text = reader.text(cell);
             double pixels = line_pixels(font);
             if (format.alignment.rotation == 90 || format.alignment.rotation == 180)
-                pixels = text_pixels(text, font) + padding;
+                pixels = text_pixels(text, font) + cell_padding;
             else if (format.alignment.wrap && cell.kind == CellKind::String)
-                pixels = (pixels - 2) * wrapped_lines(text, font, sheet.column_pixels(at.column) - padding) + 2;
+                pixels = (pixels - 2) * wrapped_lines(text, font, sheet.column_pixels(at.column) - cell_padding) + 2;
             double& height = heights[at.row];
             height = std::max(height, pixels);
         });
@@ -121,13 +103,13 @@ void RangeObject::fit_columns(const Area& area) {
     const StyleTable& styles = cells_.styles();
     CellReader reader(cells_);
     std::map<std::int32_t, double> widths;  // pixels
-    sheet.visit_cells({1, area.first_column, formula::max_rows, area.last_column}, false,
-                      [&](Position at, const Cell& cell) {
-                          const CellFormat& format = styles.formats[cell.style];
-                          if (cell.kind == CellKind::Blank || format.alignment.wrap || sheet.merge_at(at)) return;
-                          double& width = widths[at.column];
-                          width = std::max(width, text_pixels(reader.text(cell), styles.fonts[format.font]) + padding);
-                      });
+    sheet.visit_cells(
+        {1, area.first_column, formula::max_rows, area.last_column}, false, [&](Position at, const Cell& cell) {
+            const CellFormat& format = styles.formats[cell.style];
+            if (cell.kind == CellKind::Blank || format.alignment.wrap || sheet.merge_at(at)) return;
+            double& width = widths[at.column];
+            width = std::max(width, text_pixels(reader.text(cell), styles.fonts[format.font]) + cell_padding);
+        });
     const std::int32_t digit = sheet.workbook().digit_pixels();
     for (const auto& [column, pixels] : widths) {
         if (sheet.columns().at(column).hidden) continue;
