@@ -18,6 +18,7 @@ complete -c kestrune -n '__fish_seen_subcommand_from run show' -l set -x -d 'NAM
 complete -c kestrune -n '__fish_seen_subcommand_from prefs' -l answer -x -a 'ok cancel ask' -d 'Answer to questions'
 complete -c kestrune -n '__fish_seen_subcommand_from run' -s o -l output -r -d 'Where to save'
 complete -c kestrune -n '__fish_seen_subcommand_from run' -l in-place -d 'Save over the workbook'
+complete -c kestrune -n '__fish_seen_subcommand_from run' -l force -d 'Save a signed workbook without its signature'
 complete -c kestrune -n '__fish_seen_subcommand_from run' -l answer -x -a 'ok cancel yes no ask' -d 'Answer to questions'
 complete -c kestrune -n '__fish_seen_subcommand_from run' -l trace -d 'Tell what was skipped'
 complete -c kestrune -n '__fish_seen_subcommand_from run commands keys cell trace show diff prefs' -l json -d 'As JSON'

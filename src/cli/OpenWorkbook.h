@@ -30,6 +30,8 @@ class OpenWorkbook {
     // What the libraries ask about number formats of open workbooks.
     [[nodiscard]] HostFormats& formats() { return formats_; }
     [[nodiscard]] host::PackageKind kind() const { return file_->package().kind(); }
+    [[nodiscard]] bool breaks_signature() { return file_->breaks_signature(); }
+    void give_up_signature() { file_->give_up_signature(); }
     // Writes the workbook whole or not at all; the path may be the one it was opened from.
     void save(const std::string& path) { file_->save(path); }
 

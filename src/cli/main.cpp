@@ -54,6 +54,7 @@ void add_run(CLI::App& app, RunOptions& options) {
     command->add_option("WORKBOOK", options.workbook, "The .xlsx or .xlsm file to open")->required();
     command->add_option("-o,--output", options.output, "Where to save the workbook");
     command->add_flag("--in-place", options.in_place, "Save the workbook over itself");
+    command->add_flag("--force", options.force, "Save a signed workbook that was changed, without its signature");
     command->add_option("--answer", options.answer, "Answer to every question: ok, cancel, yes, no, or ask")
         ->capture_default_str();
     command->add_flag("--json", options.json, "Report each step as JSON");

@@ -349,6 +349,43 @@ class Refusing(CommandLineTest):
             self.refused(status, needle, *arguments)
         self.assertEqual(list(self.config.rglob("HotKeys*")), [])
 
+    def test_changes_a_signed_workbook_only_when_told_to(self):
+        signed = self.folder / "signed.xlsx"
+        kinds = "http://schemas.openxmlformats.org/package/2006/relationships/digital-signature/"
+        with zipfile.ZipFile(self.book) as package, zipfile.ZipFile(signed, "w", zipfile.ZIP_DEFLATED) as out:
+            for name in package.namelist():
+                text = package.read(name)
+                if name == "_rels/.rels":
+                    arrow = f'<Relationship Id="s" Type="{kinds}origin" Target="_xmlsignatures/origin.sigs"/>'
+                    text = text.replace(b"</Relationships>", arrow.encode() + b"</Relationships>")
+                if name == "[Content_Types].xml":
+                    types = "application/vnd.openxmlformats-package.digital-signature-"
+                    sigs = (
+                        f'<Default Extension="sigs" ContentType="{types}origin"/>'
+                        f'<Override PartName="/_xmlsignatures/sig1.xml" ContentType="{types}xmlsignature+xml"/>'
+                    )
+                    text = text.replace(b"</Types>", sigs.encode() + b"</Types>")
+                out.writestr(name, text)
+            out.writestr("_xmlsignatures/origin.sigs", b"")
+            out.writestr("_xmlsignatures/sig1.xml", b"<Signature/>")
+            out.writestr(
+                "_xmlsignatures/_rels/origin.sigs.rels",
+                '<Relationships xmlns="http://schemas.openxmlformats.org/package/2006/relationships">'
+                f'<Relationship Id="r" Type="{kinds}signature" Target="sig1.xml"/></Relationships>',
+            )
+        out = self.folder / "out.xlsx"
+        self.run_ok("run", signed, "-o", out)  # nothing changes, and it still holds
+        self.assertEqual(out.read_bytes(), signed.read_bytes())
+        out.unlink()
+        self.refused(1, "signed.xlsx: is digitally signed", "run", signed, "-o", out, "@A1", "20")
+        self.assertFalse(out.exists())
+        self.run_ok("run", signed, "-o", out, "--force", "@A1", "20")
+        with zipfile.ZipFile(out) as package:
+            self.assertEqual([name for name in package.namelist() if "signatures" in name], [])
+            for part in ("_rels/.rels", "[Content_Types].xml"):
+                self.assertNotIn(b"sig1", package.read(part))
+                self.assertNotIn(b"digital-signature/origin", package.read(part))
+
     def test_files_that_are_no_workbooks(self):
         with zipfile.ZipFile(self.book) as package:
             parts = {name: package.read(name) for name in package.namelist()}

@@ -105,6 +105,15 @@ class Session {
         } else if (options_.json) {
             fmt::print("[]\n");
         }
+        if ((options_.in_place || options_.output) && book.breaks_signature()) {
+            if (!options_.force) {
+                throw Failure(
+                    fmt::format("{}: is digitally signed, and the signature does not hold for what was changed; "
+                                "--force saves it without the signature",
+                                options_.workbook));
+            }
+            book.give_up_signature();
+        }
         if (options_.in_place) {
             book.save(options_.workbook);
         } else if (options_.output) {

@@ -10,6 +10,7 @@ struct RunOptions {
     std::string workbook;
     std::optional<std::string> output;
     bool in_place = false;
+    bool force = false;         // save a signed workbook without the signature that its changes break
     std::string answer = "ok";  // ok, cancel, yes, no, ask
     bool json = false;
     bool trace = false;

@@ -1,4 +1,5 @@
 #include "host/xlsx/WorkbookFile.h"
+#include "host/xlsx/Signatures.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -176,8 +177,17 @@ void WorkbookFile::drop_calculation_chain() {
     if (!chain.external && package_.has(chain.target)) package_.remove(chain.target);
 }
 
-void WorkbookFile::save(const std::string& path) {
+bool WorkbookFile::breaks_signature() {
     update();
+    return package_.changed() && is_signed(package_);
+}
+
+void WorkbookFile::save(const std::string& path) {
+    if (breaks_signature()) {
+        if (!signature_given_up_)
+            throw PackageError(package_.file(), {}, "is signed, and the signature would not hold for what was changed");
+        remove_signatures(package_);
+    }
     package_.save(path);
 }
 

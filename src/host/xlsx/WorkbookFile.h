@@ -34,7 +34,12 @@ class WorkbookFile {
 
     // Brings the package up to date with the workbook, without writing a file.
     void update();
-    // The same, then writes the file whole or not at all. Without a change the bytes that were read are written.
+    // Whether somebody signed the file, and what was changed since breaks the signature. Brings the package up to date.
+    [[nodiscard]] bool breaks_signature();
+    // Lets the file be saved without the signature that would no longer hold.
+    void give_up_signature() { signature_given_up_ = true; }
+    // The same as update, then writes the file whole or not at all. A signature that is neither whole nor given up is a
+    // PackageError. Without a change the bytes that were read are written.
     // May be called again after further changes.
     void save(const std::string& path);
 
@@ -69,6 +74,7 @@ class WorkbookFile {
     bool styles_in_file_ = false;
     StylesLayout styles_;
     std::int32_t active_in_file_ = 0;
+    bool signature_given_up_ = false;
     std::exception_ptr failure_;  // of a part that was read late
 };
 
