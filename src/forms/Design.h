@@ -95,6 +95,8 @@ struct FormDesign {
     std::string_view caption;
     std::span<const ControlDesign> controls;
     bool sizable = false;  // by the person, who finds it again as they left it
+    double width = 0;      // inside at first, points; 0: what it needs, which is also the least
+    double height = 0;
 };
 
 }  // namespace kestrune::forms

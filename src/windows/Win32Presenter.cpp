@@ -55,7 +55,7 @@ forms::MsgBoxResult Win32Presenter::answer_to(const forms::Message& message) {
                                             : forms::safe_choice(message.buttons);
 }
 
-void Win32Presenter::work(forms::Form& form) { FormWindow(form, owner()).run(); }
+void Win32Presenter::work(forms::Form& form) { FormWindow(form, owner(), places_).run(); }
 
 std::optional<std::string> Win32Presenter::choose_file(const FileDialog& dialog) {
     constexpr std::size_t longest_path = 32768;

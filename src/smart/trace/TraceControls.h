@@ -9,7 +9,7 @@
 
 namespace kestrune::smart {
 
-inline constexpr double trace_width = 390;  // points, of the dialogs of references
+inline constexpr double trace_width = 250;  // of the dialogs of references, points, at least
 
 // What stands below the lists of references.
 inline constexpr auto trace_controls = std::to_array<forms::ControlDesign>({

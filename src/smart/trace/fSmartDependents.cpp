@@ -16,25 +16,29 @@ using forms::ListColumn;
 using forms::Place;
 using forms::Stretch;
 
-constexpr auto columns = std::to_array<ListColumn>({{"Cells", 150}, {"Formula", 200}});
+constexpr auto columns = std::to_array<ListColumn>({{"Cells", 130}, {"Formula", 200}});
 
 constexpr auto own_controls = std::to_array<ControlDesign>({
     {.name = "lblCells", .stretch = Stretch::Across, .width = trace_width},
     {.name = "lblBox", .caption = "Show those on:", .accelerator = 'S'},
-    {.name = "cmbBox", .kind = Kind::Combo, .place = Place::Beside, .stretch = Stretch::Across, .width = 200},
+    {.name = "cmbBox", .kind = Kind::Combo, .place = Place::Beside, .stretch = Stretch::Across, .width = 150},
     {.name = "lstBox",
      .kind = Kind::List,
      .caption = "Cells",
      .stretch = Stretch::Both,
      .width = trace_width,
-     .height = 120,
+     .height = 75,
      .columns = columns},
 });
 
 constexpr auto controls = forms::joined(own_controls, trace_controls, forms::ok_and_cancel);
 
-constexpr forms::FormDesign form_design{
-    .name = "fSmartDependents", .caption = "BR Kestrune -- Smart Dependents", .controls = controls, .sizable = true};
+constexpr forms::FormDesign form_design{.name = "fSmartDependents",
+                                        .caption = "BR Kestrune -- Smart Dependents",
+                                        .controls = controls,
+                                        .sizable = true,
+                                        .width = trace_width * 1.6,
+                                        .height = 270};
 
 std::string counted(const std::string& what, std::size_t count) { return what + " (" + std::to_string(count) + ")"; }
 

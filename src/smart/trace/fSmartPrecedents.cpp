@@ -19,7 +19,7 @@ using forms::Kind;
 using forms::ListColumn;
 using forms::Stretch;
 
-constexpr auto columns = std::to_array<ListColumn>({{"Cells", 150}, {"In the formula", 120}, {"Value", 80}});
+constexpr auto columns = std::to_array<ListColumn>({{"Cells", 150}, {"In the formula", 130}, {"Value", 60}});
 
 constexpr auto own_controls = std::to_array<ControlDesign>({
     {.name = "lblCells", .stretch = Stretch::Across, .width = trace_width},
@@ -27,14 +27,18 @@ constexpr auto own_controls = std::to_array<ControlDesign>({
      .kind = Kind::List,
      .stretch = Stretch::Both,
      .width = trace_width,
-     .height = 120,
+     .height = 75,
      .columns = columns},
 });
 
 constexpr auto controls = forms::joined(own_controls, trace_controls, forms::ok_and_cancel);
 
-constexpr forms::FormDesign form_design{
-    .name = "fSmartPrecedents", .caption = "BR Kestrune -- Smart Precedents", .controls = controls, .sizable = true};
+constexpr forms::FormDesign form_design{.name = "fSmartPrecedents",
+                                        .caption = "BR Kestrune -- Smart Precedents",
+                                        .controls = controls,
+                                        .sizable = true,
+                                        .width = trace_width * 1.6,
+                                        .height = 270};
 
 }  // namespace
 

@@ -3,6 +3,9 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
+#include "automation/Text.h"
 #include "windows/com/Unicode.h"
 #include "windows/forms/FormWindow.h"
 #include "windows/forms/NativeControl.h"
@@ -57,6 +60,25 @@ bool acts(Kind kind, int code) {
 
 bool down(int key) { return GetKeyState(key) < 0; }
 
+// While a notification of a control is being answered.
+struct Inside {
+    explicit Inside(int& counter) : count(counter) { ++count; }
+    ~Inside() { --count; }
+    Inside(const Inside&) = delete;
+    Inside& operator=(const Inside&) = delete;
+    int& count;
+};
+
+// The first line from a place on, and from the top again, that begins like what is typed; -1 for none.
+int line_that_begins(const Control& control, std::string_view text, int from) {
+    const auto count = static_cast<int>(control.List().size());
+    for (int i = 0; i < count; ++i) {
+        const int place = (std::max(from, 0) + i) % count;
+        if (automation::same_text(control.item(place, 0).substr(0, text.size()), text)) return place;
+    }
+    return -1;
+}
+
 }  // namespace
 
 LRESULT CALLBACK FormWindow::receive(HWND window, UINT message, WPARAM w, LPARAM l) noexcept {
@@ -102,6 +124,9 @@ LRESULT FormWindow::answer(UINT message, WPARAM w, LPARAM l) {
             }
             return TRUE;
         }
+        case WM_EXITSIZEMOVE:
+            placed_ = true;
+            return 0;
         case WM_SIZE:
             if (w != SIZE_MINIMIZED && scale_) arrange();
             return 0;
@@ -126,11 +151,7 @@ LRESULT FormWindow::answer(UINT message, WPARAM w, LPARAM l) {
 void FormWindow::command(int number, int code) {
     Control* control = control_of(number);
     if (!control || writing_ > 0) return;
-    struct Inside {
-        explicit Inside(int& counter) : count(counter) { ++count; }
-        ~Inside() { --count; }
-        int& count;
-    } const inside(inside_);
+    const Inside inside(inside_);
     if (goes_there(control->kind(), code)) {
         form_.go_to(*control);
     } else if (acts(control->kind(), code)) {
@@ -179,7 +200,35 @@ LRESULT FormWindow::notify(const NMHDR& header) {
         return 0;
     }
     Control* control = control_of(static_cast<int>(header.idFrom));
-    if (!control || writing_ > 0) return 0;
+    if (!control) return 0;
+    if (header.code == LVN_GETDISPINFOW) {
+        auto& asked = reinterpret_cast<NMLVDISPINFOW*>(const_cast<NMHDR*>(&header))->item;
+        if ((asked.mask & LVIF_TEXT) && asked.cchTextMax > 0) {
+            const std::wstring text = to_utf16(control->item(asked.iItem, static_cast<std::size_t>(asked.iSubItem)));
+            const std::size_t length = std::min(text.size(), static_cast<std::size_t>(asked.cchTextMax) - 1);
+            text.copy(asked.pszText, length);
+            asked.pszText[length] = L'\0';
+        }
+        return 0;
+    }
+    if (header.code == LVN_ODFINDITEMW) {
+        const auto& sought = *reinterpret_cast<const NMLVFINDITEMW*>(&header);
+        if (!(sought.lvfi.flags & (LVFI_STRING | LVFI_PARTIAL)) || !sought.lvfi.psz) return -1;
+        return line_that_begins(*control, to_utf8(sought.lvfi.psz), sought.iStart);
+    }
+    if (writing_ > 0) return 0;
+    const Inside inside(inside_);
+    if (header.code == LVN_ITEMCHANGED) {
+        const auto& change = *reinterpret_cast<const NMLISTVIEW*>(&header);
+        if (!(change.uNewState & LVIS_SELECTED) || (change.uOldState & LVIS_SELECTED)) return 0;
+        form_.choose(*control, change.iItem);
+        changed(*control);
+    }
+    // Beside the lines nothing can be chosen.
+    if (header.code == static_cast<UINT>(NM_CLICK) && control->is(Kind::List)) changed(*control);
+    if (header.code == static_cast<UINT>(NM_DBLCLK) && control->is(Kind::List)) {
+        if (reinterpret_cast<const NMITEMACTIVATE*>(&header)->iItem >= 0) form_.double_click(*control);
+    }
     if (header.code == UDN_DELTAPOS) {
         const auto& pressed = *reinterpret_cast<const NMUPDOWN*>(&header);
         form_.spin(*control, pressed.iDelta > 0);

@@ -26,7 +26,8 @@ HINSTANCE module() {
 }
 
 void register_class(WNDPROC procedure) {
-    INITCOMMONCONTROLSEX controls{sizeof controls, ICC_UPDOWN_CLASS | ICC_TAB_CLASSES | ICC_BAR_CLASSES};
+    INITCOMMONCONTROLSEX controls{sizeof controls,
+                                  ICC_UPDOWN_CLASS | ICC_TAB_CLASSES | ICC_BAR_CLASSES | ICC_LISTVIEW_CLASSES};
     InitCommonControlsEx(&controls);
     WNDCLASSEXW made{};
     made.cbSize = sizeof made;
@@ -44,6 +45,14 @@ DWORD style_of(const forms::Form& form) {
 
 constexpr DWORD extended_style = WS_EX_DLGMODALFRAME;
 
+// The part of a screen that windows may use.
+RECT work_area(HMONITOR monitor) {
+    MONITORINFO screen{};
+    screen.cbSize = sizeof screen;
+    GetMonitorInfoW(monitor, &screen);
+    return screen.rcWork;
+}
+
 // Keeps the thread's other windows from taking input, for as long as it lives.
 class InputKeptAway {
   public:
@@ -55,6 +64,12 @@ class InputKeptAway {
             if (IsWindow(window)) EnableWindow(window, TRUE);
         }
     }
+    // From one that came later, too.
+    void keep_from(HWND window) {
+        if (!IsWindowEnabled(window)) return;
+        disabled_.push_back(window);
+        EnableWindow(window, FALSE);
+    }
     InputKeptAway(const InputKeptAway&) = delete;
     InputKeptAway& operator=(const InputKeptAway&) = delete;
 
@@ -63,8 +78,7 @@ class InputKeptAway {
         auto& kept = *reinterpret_cast<InputKeptAway*>(self);
         if (window != kept.open_ && GetWindow(window, GW_OWNER) != kept.open_ && IsWindowVisible(window) &&
             IsWindowEnabled(window)) {
-            kept.disabled_.push_back(window);
-            EnableWindow(window, FALSE);
+            kept.keep_from(window);
         }
         return TRUE;
     }
@@ -83,7 +97,8 @@ struct FormWindow::Writing {
     int& count;
 };
 
-FormWindow::FormWindow(forms::Form& form, HWND owner) : form_(form), owner_(owner) {
+FormWindow::FormWindow(forms::Form& form, HWND owner, const FormPlaces& places)
+    : form_(form), owner_(owner), places_(places) {
     register_class(&FormWindow::receive);
     CreateWindowExW(extended_style, class_name, to_utf16(form.Caption()).c_str(), style_of(form), 0, 0, 0, 0, owner,
                     nullptr, module(), this);
@@ -92,7 +107,11 @@ FormWindow::FormWindow(forms::Form& form, HWND owner) : form_(form), owner_(owne
     create_controls();
     set_font();
     fit();
+    open_up();
     center();
+    if (form_.design().sizable) {
+        if (const auto place = places_.place_of(form_.design().name)) put_at(*place);
+    }
 }
 
 FormWindow::~FormWindow() {
@@ -105,7 +124,7 @@ void FormWindow::run() {
     form_.watch(this);
     for (const Control& control : form_.controls()) changed(control);
     {
-        const InputKeptAway kept(window_);
+        InputKeptAway kept(window_);
         ShowWindow(window_, SW_SHOW);
         focus_now();
         MSG message;
@@ -115,15 +134,83 @@ void FormWindow::run() {
                 PostQuitMessage(static_cast<int>(message.wParam));
                 break;
             }
-            if (key(message)) continue;
-            TranslateMessage(&message);
-            DispatchMessageW(&message);
+            if (!key(message)) {
+                TranslateMessage(&message);
+                DispatchMessageW(&message);
+            }
+            if (HWND other = window_in_front()) {
+                kept.keep_from(other);
+                stand_before(other);
+            }
         }
     }
+    if (placed_ && form_.design().sizable && !IsIconic(window_)) keep_place();
     // The others take input again before it goes, so that its owner comes to the front and no other program.
     form_.watch(nullptr);
     ShowWindow(window_, SW_HIDE);
     if (failure_) std::rethrow_exception(failure_);
+}
+
+// A window of the same program that came before this one: Excel has one a workbook. Null for none.
+HWND FormWindow::window_in_front() const {
+    HWND front = GetActiveWindow();
+    if (!front || front == window_ || !IsWindowEnabled(window_)) return nullptr;
+    for (HWND owner = front; owner; owner = GetWindow(owner, GW_OWNER)) {
+        if (owner == window_) return nullptr;
+    }
+    return front;
+}
+
+// The form belongs to the window that a person sees behind it, or it would bring another one to the front with it.
+void FormWindow::stand_before(HWND window) {
+    SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(window));
+    if (!done_ && form_.Visible()) SetActiveWindow(window_);
+}
+
+// At first a form may be larger than it needs to be.
+void FormWindow::open_up() {
+    const forms::FormDesign& design = form_.design();
+    const SIZE wanted =
+        scale_->outside({scale_->pixels(design.width), scale_->pixels(design.height)}, style_of(form_), extended_style);
+    if (design.width > 0 && design.height > 0) resize(wanted);
+}
+
+// Not smaller than the form needs, and not larger than the screen.
+void FormWindow::resize(SIZE size) {
+    const SIZE least = least_size();
+    const RECT screen = work_area(MonitorFromWindow(owner_ ? owner_ : window_, MONITOR_DEFAULTTOPRIMARY));
+    size.cx = std::max(least.cx, std::min(size.cx, screen.right - screen.left));
+    size.cy = std::max(least.cy, std::min(size.cy, screen.bottom - screen.top));
+    SetWindowPos(window_, nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+    arrange();
+}
+
+void FormWindow::put_at(const FormPlace& place) {
+    resize(
+        scale_->outside({scale_->pixels(place.width), scale_->pixels(place.height)}, style_of(form_), extended_style));
+    RECT own{};
+    GetWindowRect(window_, &own);
+    const LONG width = own.right - own.left;
+    const LONG height = own.bottom - own.top;
+    // The screen that it stood on may be gone.
+    const RECT wanted{place.left, place.top, place.left + width, place.top + height};
+    const RECT screen = work_area(MonitorFromRect(&wanted, MONITOR_DEFAULTTONEAREST));
+    move_within(screen, place.left, place.top);
+}
+
+void FormWindow::keep_place() const {
+    RECT own{};
+    GetWindowRect(window_, &own);
+    places_.keep(form_.design().name, {own.left, own.top, form_.InsideWidth(), form_.InsideHeight()});
+}
+
+// All of it on the screen, the title bar above all.
+void FormWindow::move_within(const RECT& screen, LONG left, LONG top) const {
+    RECT own{};
+    GetWindowRect(window_, &own);
+    left = std::max(screen.left, std::min(left, screen.right - (own.right - own.left)));
+    top = std::max(screen.top, std::min(top, screen.bottom - (own.bottom - own.top)));
+    SetWindowPos(window_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 void FormWindow::create_controls() {
@@ -189,21 +276,13 @@ void FormWindow::fit(bool shrink) {
 }
 
 void FormWindow::center() {
-    MONITORINFO screen{};
-    screen.cbSize = sizeof screen;
-    GetMonitorInfoW(MonitorFromWindow(owner_ ? owner_ : window_, MONITOR_DEFAULTTOPRIMARY), &screen);
-    RECT before = screen.rcWork;
+    const RECT screen = work_area(MonitorFromWindow(owner_ ? owner_ : window_, MONITOR_DEFAULTTOPRIMARY));
+    RECT before = screen;
     if (owner_ && !IsIconic(owner_)) GetWindowRect(owner_, &before);
     RECT own{};
     GetWindowRect(window_, &own);
-    const LONG width = own.right - own.left;
-    const LONG height = own.bottom - own.top;
-    // All of it on the screen, the title bar above all.
-    const LONG left =
-        std::max(screen.rcWork.left, std::min((before.left + before.right - width) / 2, screen.rcWork.right - width));
-    const LONG top =
-        std::max(screen.rcWork.top, std::min((before.top + before.bottom - height) / 2, screen.rcWork.bottom - height));
-    SetWindowPos(window_, nullptr, left, top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    move_within(screen, (before.left + before.right - (own.right - own.left)) / 2,
+                (before.top + before.bottom - (own.bottom - own.top)) / 2);
 }
 
 void FormWindow::arrange() {
@@ -220,6 +299,7 @@ void FormWindow::arrange() {
         // The height of a combo box is that of its list, too.
         if (form_.controls()[i].is(Kind::Combo)) bottom += scale_->pixels(120);
         MoveWindow(natives_[i], left, top, scale_->pixels(box.right()) - left, bottom - top, FALSE);
+        fit_columns(natives_[i], form_.controls()[i], [this](double points) { return scale_->pixels(points); });
     }
     RedrawWindow(window_, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
     form_.resize(layout.inside.width, layout.inside.height);
@@ -249,7 +329,8 @@ void FormWindow::changed(const Control& control) {
     show_in(natives_[place], control, items_too);
     if (captions_[place] != control.Caption()) {
         captions_[place] = control.Caption();
-        fit(false);
+        // One of a fixed size needs no more room.
+        if (control.design().width <= 0 || control.design().height <= 0) fit(false);
     }
     if (!control.is(Kind::Frame) && !control.is(Kind::Tabs)) return;
     for (const Control& held : form_.controls()) {
@@ -273,7 +354,7 @@ void FormWindow::focus_now() {
     const Writing writing(*this);
     if (target && now != target && !IsChild(target, now)) {
         SetFocus(target);
-        if (active->is(Kind::Text)) SendMessageW(target, EM_SETSEL, 0, -1);
+        if (active->is(Kind::Text) && !active->design().locked) SendMessageW(target, EM_SETSEL, 0, -1);
     }
     mark_default();
 }

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "forms/Form.h"
+#include "windows/forms/FormPlaces.h"
 #include "windows/forms/Scale.h"
 
 namespace kestrune::windows {
@@ -17,8 +18,8 @@ namespace kestrune::windows {
 // form says. While it is open the thread's other windows take no input, but go on painting.
 class FormWindow final : public forms::FormView {
   public:
-    // owner: the window that it stands before; null for none.
-    FormWindow(forms::Form& form, HWND owner);
+    // owner: the window that it stands before; null for none. The places outlive it.
+    FormWindow(forms::Form& form, HWND owner, const FormPlaces& places);
     ~FormWindow() override;
     FormWindow(const FormWindow&) = delete;
     FormWindow& operator=(const FormWindow&) = delete;
@@ -50,6 +51,13 @@ class FormWindow final : public forms::FormView {
     void set_font();
     void fit(bool shrink = true);  // gives the window the size that its form needs
     void center();                 // before its owner
+    void open_up();
+    void resize(SIZE size);  // of the window
+    void move_within(const RECT& screen, LONG left, LONG top) const;
+    void put_at(const FormPlace& place);
+    void keep_place() const;
+    [[nodiscard]] HWND window_in_front() const;
+    void stand_before(HWND window);
     void rescale(UINT dpi, const RECT& place);
     void add_tip(HWND native) const;
     void mark_default() const;
@@ -60,6 +68,7 @@ class FormWindow final : public forms::FormView {
 
     forms::Form& form_;
     HWND owner_;
+    const FormPlaces& places_;
     HWND window_ = nullptr;
     HWND tips_ = nullptr;
     std::unique_ptr<Scale> scale_;
@@ -71,6 +80,7 @@ class FormWindow final : public forms::FormView {
     int writing_ = 0;
     int inside_ = 0;  // notifications of controls that are being answered
     bool done_ = false;
+    bool placed_ = false;  // by the person
 };
 
 }  // namespace kestrune::windows

@@ -57,6 +57,66 @@ void set_tabs(HWND native, const Control& control) {
     }
 }
 
+bool has_columns(const Control& control) { return control.is(Kind::List) && !control.design().columns.empty(); }
+
+int chosen_line(HWND native) {
+    return static_cast<int>(SendMessageW(native, LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_SELECTED));
+}
+
+void choose_line(HWND native, int index) {
+    LVITEMW state{};
+    state.stateMask = LVIS_SELECTED | LVIS_FOCUSED;
+    // Of all lines, so that the one before goes off.
+    SendMessageW(native, LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&state));
+    if (index < 0) return;
+    state.state = state.stateMask;
+    SendMessageW(native, LVM_SETITEMSTATE, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&state));
+    SendMessageW(native, LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), FALSE);
+}
+
+// The list asks for the texts of the lines that it shows, so that it may be long.
+void show_lines(HWND native, const Control& control, bool items_too) {
+    if (items_too) {
+        SendMessageW(native, LVM_SETITEMCOUNT, control.List().size(), 0);
+        InvalidateRect(native, nullptr, TRUE);
+    }
+    if (chosen_line(native) != control.ListIndex()) choose_line(native, control.ListIndex());
+}
+
+void add_columns(HWND native, const Control& control) {
+    SendMessageW(native, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP);
+    WPARAM place = 0;
+    for (const forms::ListColumn& column : control.design().columns) {
+        std::wstring head = to_utf16(column.head);
+        LVCOLUMNW made{};
+        made.mask = LVCF_TEXT | LVCF_FMT;
+        made.fmt = LVCFMT_LEFT;
+        made.pszText = head.data();
+        SendMessageW(native, LVM_INSERTCOLUMNW, place++, reinterpret_cast<LPARAM>(&made));
+    }
+}
+
+// A locked text with its mark. Windows parts lines by two characters.
+void show_marked(HWND native, const Control& control) {
+    const std::wstring text = to_utf16(control.Text());
+    std::wstring lines;
+    auto start = static_cast<std::size_t>(control.SelStart());
+    std::size_t end = start + static_cast<std::size_t>(control.SelLength());
+    const std::size_t first = start;
+    const std::size_t last = end;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == L'\n' && (i == 0 || text[i - 1] != L'\r')) {
+            lines += L'\r';
+            if (i < first) ++start;
+            if (i < last) ++end;
+        }
+        lines += text[i];
+    }
+    if (to_utf16(text_in(native)) != lines) SetWindowTextW(native, lines.c_str());
+    SendMessageW(native, EM_SETSEL, start, static_cast<LPARAM>(end));
+    SendMessageW(native, EM_SCROLLCARET, 0, 0);
+}
+
 void show_choice(HWND native, int index, UINT get, UINT set) {
     if (SendMessageW(native, get, 0, 0) != index) SendMessageW(native, set, static_cast<WPARAM>(index), 0);
 }
@@ -74,6 +134,14 @@ HWND create_native(const Control& control, HWND form, int number) {
         made.style = (made.style & ~static_cast<DWORD>(CBS_DROPDOWNLIST)) | CBS_DROPDOWN;
     }
     if (control.design().role == forms::Role::Default) made.style |= BS_DEFPUSHBUTTON;
+    if (has_columns(control)) {
+        made = {WC_LISTVIEWW, LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER,
+                WS_EX_CLIENTEDGE};
+    }
+    if (control.design().multi_line) {
+        made.style = (made.style & ~static_cast<DWORD>(ES_AUTOHSCROLL)) | ES_MULTILINE | ES_AUTOVSCROLL | WS_VSCROLL;
+    }
+    if (control.design().locked) made.style |= ES_READONLY | ES_NOHIDESEL;
     HWND native =
         CreateWindowExW(made.extended_style, made.name, L"", WS_CHILD | WS_CLIPSIBLINGS | made.style, 0, 0, 0, 0, form,
                         reinterpret_cast<HMENU>(static_cast<INT_PTR>(number)), GetModuleHandleW(nullptr), nullptr);
@@ -83,7 +151,30 @@ HWND create_native(const Control& control, HWND form, int number) {
         SendMessageW(native, UDM_SETRANGE32, static_cast<WPARAM>(-1000), 1000);
         SendMessageW(native, UDM_SETPOS32, 0, 0);
     }
+    if (has_columns(control)) add_columns(native, control);
     return native;
+}
+
+void fit_columns(HWND native, const Control& control, const std::function<int(double)>& pixels) {
+    if (!has_columns(control)) return;
+    RECT inside{};
+    GetClientRect(native, &inside);
+    // With room for the scroll bar, which comes with the lines.
+    RECT whole{};
+    GetWindowRect(native, &whole);
+    const int room = std::min<int>(
+        inside.right, whole.right - whole.left - GetSystemMetrics(SM_CXVSCROLL) - 2 * GetSystemMetrics(SM_CXEDGE));
+    int wanted = 0;
+    for (const forms::ListColumn& column : control.design().columns) wanted += pixels(column.width);
+    const double share = wanted > room && wanted > 0 ? static_cast<double>(room) / wanted : 1;
+    int left = room;
+    WPARAM place = 0;
+    for (const forms::ListColumn& column : control.design().columns) {
+        const bool is_last = place + 1 == control.design().columns.size();
+        const int width = is_last ? left : static_cast<int>(pixels(column.width) * share);
+        SendMessageW(native, LVM_SETCOLUMNWIDTH, place++, MAKELPARAM(std::max(width, 0), 0));
+        left -= width;
+    }
 }
 
 void show_in(HWND native, const Control& control, bool items_too) {
@@ -94,7 +185,11 @@ void show_in(HWND native, const Control& control, bool items_too) {
             show_choice(native, control.Checked() ? BST_CHECKED : BST_UNCHECKED, BM_GETCHECK, BM_SETCHECK);
             break;
         case Kind::Text:
-            show_text(native, to_utf16(control.Text()));
+            if (control.design().locked) {
+                show_marked(native, control);
+            } else {
+                show_text(native, to_utf16(control.Text()));
+            }
             break;
         case Kind::Combo:
             if (items_too) set_items(native, control, CB_RESETCONTENT, CB_ADDSTRING);
@@ -102,6 +197,10 @@ void show_in(HWND native, const Control& control, bool items_too) {
             if (control.design().editable) show_text(native, to_utf16(control.Text()));
             break;
         case Kind::List:
+            if (has_columns(control)) {
+                show_lines(native, control, items_too);
+                break;
+            }
             if (items_too) set_items(native, control, LB_RESETCONTENT, LB_ADDSTRING);
             show_choice(native, control.ListIndex(), LB_GETCURSEL, LB_SETCURSEL);
             break;

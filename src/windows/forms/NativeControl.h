@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <functional>
 #include <string>
 
 #include "forms/Control.h"
@@ -14,6 +15,10 @@ HWND create_native(const forms::Control& control, HWND form, int number);
 // Has the window show what the control holds: caption or text, what is chosen, whether it is enabled and seen. What it
 // shows already is left alone, so that a person who types keeps the caret.
 void show_in(HWND native, const forms::Control& control, bool items_too);
+
+// Gives the columns of a list with columns their widths, in points of the design scaled by a function; what there is
+// room for besides goes to the last, and all are narrower where there is too little.
+void fit_columns(HWND native, const forms::Control& control, const std::function<int(double)>& pixels);
 
 // A caption as Windows writes it, with "&" before the access key.
 std::wstring native_caption(const forms::Control& control);

@@ -51,7 +51,7 @@ struct FormWindowTest : testing::Test {
 
     HWND excel = CreateWindowExW(0, L"STATIC", L"Excel", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40, 700, 600, nullptr,
                                  nullptr, GetModuleHandleW(nullptr), nullptr);
-    Win32Presenter presenter;
+    Win32Presenter presenter{FormPlaces("")};
     SampleForm form;
     Hand hand;
 };
@@ -200,6 +200,74 @@ TEST_F(FormWindowTest, GrowsWithTheScaleOfTheScreen) {
     hand.then([&] { take_picture(GetActiveWindow(), "build/form-sample-150-per-cent.bmp"); });
     hand.key(VK_ESCAPE);
     form.Show(presenter);
+}
+
+TEST_F(FormWindowTest, StandsBeforeTheWindowThatAPersonSees) {
+    HWND other = CreateWindowExW(0, L"STATIC", L"Other workbook", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 60, 500, 400,
+                                 nullptr, nullptr, GetModuleHandleW(nullptr), nullptr);
+    SetActiveWindow(excel);
+    HWND window = nullptr;
+    form.on("ckbBold", Event::Click, [&](EventCall&) {
+        EnableWindow(other, TRUE);  // as one that has just come
+        SetActiveWindow(other);
+    });
+    hand.then([&] { window = GetActiveWindow(); });
+    hand.access_key(L'b');
+    hand.then([] {});
+    hand.then([&] {
+        EXPECT_EQ(GetActiveWindow(), window);
+        EXPECT_EQ(GetWindow(window, GW_OWNER), other);
+        EXPECT_FALSE(IsWindowEnabled(other));
+        EXPECT_EQ(focus(), "ckbBold");
+    });
+    hand.key(VK_ESCAPE);
+    form.Show(presenter);
+    EXPECT_TRUE(IsWindowEnabled(other));
+    EXPECT_TRUE(IsWindowEnabled(excel));
+    EXPECT_EQ(GetActiveWindow(), other);
+    DestroyWindow(other);
+}
+
+TEST_F(FormWindowTest, IsFoundAgainAsThePersonLeftIt) {
+    const char* const key = "Software\\Brannoch\\KestruneTests";
+    Win32Presenter remembering{FormPlaces(key)};
+    const auto shown = [&](const std::function<void(HWND)>& done) {
+        SampleForm another;
+        RECT place{};
+        hand.then([&] {
+            done(GetActiveWindow());
+            GetWindowRect(GetActiveWindow(), &place);
+        });
+        hand.key(VK_ESCAPE);
+        another.Show(remembering);
+        return place;
+    };
+    const auto nothing = [](HWND) {};
+    const RECT usual = shown(nothing);
+    const RECT left = shown([&](HWND window) {
+        SetWindowPos(window, nullptr, 130, 70, usual.right - usual.left + 60, usual.bottom - usual.top + 40,
+                     SWP_NOZORDER);
+        SendMessageW(window, WM_EXITSIZEMOVE, 0, 0);
+    });
+    const RECT found = shown(nothing);
+    EXPECT_EQ(found.left, 130);
+    EXPECT_EQ(found.top, 70);
+    EXPECT_NEAR(found.right, left.right, 1);
+    EXPECT_NEAR(found.bottom, left.bottom, 1);
+    RECT screen{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &screen, 0);
+    for (const char* gone : {"-9000 5000 200 300", "90000 -4000 9000 9000", "nan 0 -1 1", "1 1 1", "5 5 nan inf", ""}) {
+        const std::wstring text = to_utf16(gone);
+        RegSetKeyValueW(HKEY_CURRENT_USER, to_utf16(key).c_str(), L"fSample", REG_SZ, text.c_str(),
+                        static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t)));
+        const RECT place = shown(nothing);
+        EXPECT_GE(place.left, screen.left) << gone;
+        EXPECT_GE(place.top, screen.top) << gone;
+        EXPECT_LE(place.right, screen.right) << gone;
+        EXPECT_LE(place.bottom, screen.bottom) << gone;
+        EXPECT_GE(place.right - place.left, usual.right - usual.left) << gone;
+    }
+    RegDeleteTreeW(HKEY_CURRENT_USER, to_utf16(key).c_str());
 }
 
 TEST_F(FormWindowTest, WhatAHandlerThrowsComesOut) {

@@ -30,7 +30,7 @@ struct ToolDialogs : testing::Test {
         hand.then([name] { take_picture(GetActiveWindow(), std::string("build/form-") + name + ".bmp"); });
     }
 
-    Win32Presenter presenter;
+    Win32Presenter presenter{FormPlaces("")};
     automation::Trace trace;
     core::SharedState state{presenter, trace};
     Hand hand;
