@@ -45,10 +45,10 @@ Private Function Commands() As Object
 End Function
 
 Private Function NotRegistered() As String
-    Dim width As String
-    width = "32-bit"
-    If InStr(Application.OperatingSystem, "64-bit") > 0 Then width = "64-bit"
-    NotRegistered = "Kestrune cannot be started: KestruneXL.dll is not registered for you, or not for " & width & _
+    Dim bits As String
+    bits = "32-bit"
+    If InStr(Application.OperatingSystem, "64-bit") > 0 Then bits = "64-bit"
+    NotRegistered = "Kestrune cannot be started: KestruneXL.dll is not registered for you, or not for " & bits & _
         " Excel." & vbCrLf & vbCrLf & "Please run the Kestrune installer, or register.cmd in Kestrune's folder, again."
 End Function
 
@@ -104,7 +104,7 @@ Public Sub ApplySmartCycleStyle(ByVal CycleNumber As Long, ByVal Position As Lon
 End Sub
 
 'A button of the ribbon's tab: its tag is a command request or a member of iGlobal.
-Public Sub RunRibbonButton(ByVal control As Object)
+Public Sub RunRibbonButton(control As Object)
     If IsNumeric(Left$(control.Tag, 1)) Then
         RunMacro control.Tag
     Else

@@ -68,7 +68,9 @@ def write_sheet(book, sheet, topic, listed, values, looks):
         sheet.write(row, 0, f"{row - 2}. {step}", looks["text"])
     sheet.write_row(COMMANDS_ROW - 2, 0, ("Command", "Number", "Key", "", ""), looks["heading"])
     for row, (number, name, _, key) in enumerate(listed, COMMANDS_ROW - 1):
-        sheet.write_row(row, 0, (name, number, key), looks["text"])
+        sheet.write(row, 0, name, looks["text"])
+        sheet.write(row, 1, number, looks["number"])
+        sheet.write(row, 2, key, looks["text"])
     for row, cells in enumerate(topic.cells, FIRST_ROW):
         for column, content in enumerate(cells, 1):
             if isinstance(content, str) and content.startswith("="):
@@ -76,6 +78,9 @@ def write_sheet(book, sheet, topic, listed, values, looks):
             else:
                 sheet.write(row - 1, column - 1, content, looks["text"])
     sheet.freeze_panes(1, 0)
+    sheet.set_landscape()
+    sheet.set_paper(9)
+    sheet.fit_to_pages(1, 0)
 
 
 def make(program, target, folder):
@@ -90,6 +95,7 @@ def make(program, target, folder):
     book.set_properties({"title": "Kestrune Examples", "author": "Brannoch", "created": DATED})
     looks = {
         "text": book.add_format({"font_name": "Arial", "font_size": 10}),
+        "number": book.add_format({"font_name": "Arial", "font_size": 10, "align": "left"}),
         "title": book.add_format({"font_name": "Arial", "font_size": 14, "bold": True}),
         "heading": book.add_format({"font_name": "Arial", "font_size": 10, "bold": True, "bottom": 1}),
     }

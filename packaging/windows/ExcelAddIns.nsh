@@ -6,6 +6,33 @@
 !define TRUSTED_KEY "${TRUSTED}\Kestrune"
 !define DEFAULT_VERSION "16.0"
 
+; Goes through the versions: keys called like 16.0 that have one called Excel below them, in $8.
+!macro EachVersion action
+    StrCpy $7 0
+    ${Do}
+        EnumRegKey $9 HKCU "${OFFICE}" $7
+        ${If} $9 == ""
+            ${ExitDo}
+        ${EndIf}
+        IntOp $7 $7 + 1
+        StrCpy $8 $9 "" -2
+        ${If} $8 == ".0"
+            StrCpy $8 "${OFFICE}\$9\Excel"
+            EnumRegKey $0 HKCU "$8" 0
+            EnumRegValue $1 HKCU "$8" 0
+            ${If} "$0$1" != ""
+                ${action}
+                ; A key that went makes room for the next one.
+                IntOp $6 $7 - 1
+                EnumRegKey $0 HKCU "${OFFICE}" $6
+                ${If} $0 != $9
+                    StrCpy $7 $6
+                ${EndIf}
+            ${EndIf}
+        ${EndIf}
+    ${Loop}
+!macroend
+
 !macro AddInFunctions prefix
     ; $0 is a key of Options; takes our add-in out of the list and closes the gap. $1 reads, $2 writes.
     Function ${prefix}CloseList
@@ -43,6 +70,24 @@
             IntOp $6 $6 + 1
         ${EndWhile}
     FunctionEnd
+
+    Function ${prefix}RemoveFromVersion
+        StrCpy $0 "$8\Options"
+        Call ${prefix}CloseList
+        ; Where Excel remembers an add-in that was switched off.
+        DeleteRegValue HKCU "$8\Add-in Manager" "$INSTDIR\Kestrune.xlam"
+        DeleteRegKey HKCU "$8\${TRUSTED_KEY}"
+        DeleteRegKey /ifempty HKCU "$8\${TRUSTED}"
+        DeleteRegKey /ifempty HKCU "$8\Security"
+        DeleteRegKey /ifempty HKCU "$8\Options"
+        DeleteRegKey /ifempty HKCU "$8"
+        DeleteRegKey /ifempty HKCU "${OFFICE}\$9"
+    FunctionEnd
+
+    Function ${prefix}RemoveFromExcel
+        !insertmacro EachVersion "Call ${prefix}RemoveFromVersion"
+        DeleteRegKey /ifempty HKCU "${OFFICE}"
+    FunctionEnd
 !macroend
 !insertmacro AddInFunctions ""
 !insertmacro AddInFunctions "un."
@@ -60,33 +105,6 @@ Function AddToVersion
     WriteRegStr HKCU "$8\${TRUSTED_KEY}" "Description" "Kestrune"
     WriteRegDWORD HKCU "$8\${TRUSTED_KEY}" "AllowSubfolders" 1
 FunctionEnd
-
-; Goes through the versions: keys called like 16.0 that have one called Excel below them, in $8.
-!macro EachVersion action
-    StrCpy $7 0
-    ${Do}
-        EnumRegKey $9 HKCU "${OFFICE}" $7
-        ${If} $9 == ""
-            ${ExitDo}
-        ${EndIf}
-        IntOp $7 $7 + 1
-        StrCpy $8 $9 "" -2
-        ${If} $8 == ".0"
-            StrCpy $8 "${OFFICE}\$9\Excel"
-            EnumRegKey $0 HKCU "$8" 0
-            EnumRegValue $1 HKCU "$8" 0
-            ${If} "$0$1" != ""
-                ${action}
-                ; A key that went makes room for the next one.
-                IntOp $6 $7 - 1
-                EnumRegKey $0 HKCU "${OFFICE}" $6
-                ${If} $0 != $9
-                    StrCpy $7 $6
-                ${EndIf}
-            ${EndIf}
-        ${EndIf}
-    ${Loop}
-!macroend
 
 Function AddToExcel
     Push 0
@@ -112,22 +130,4 @@ Function AddAndCount
     Pop $0
     IntOp $0 $0 + 1
     Push $0
-FunctionEnd
-
-Function un.RemoveFromVersion
-    StrCpy $0 "$8\Options"
-    Call un.CloseList
-    ; Where Excel remembers an add-in that was switched off.
-    DeleteRegValue HKCU "$8\Add-in Manager" "$INSTDIR\Kestrune.xlam"
-    DeleteRegKey HKCU "$8\${TRUSTED_KEY}"
-    DeleteRegKey /ifempty HKCU "$8\${TRUSTED}"
-    DeleteRegKey /ifempty HKCU "$8\Security"
-    DeleteRegKey /ifempty HKCU "$8\Options"
-    DeleteRegKey /ifempty HKCU "$8"
-    DeleteRegKey /ifempty HKCU "${OFFICE}\$9"
-FunctionEnd
-
-Function un.RemoveFromExcel
-    !insertmacro EachVersion "Call un.RemoveFromVersion"
-    DeleteRegKey /ifempty HKCU "${OFFICE}"
 FunctionEnd

@@ -32,6 +32,7 @@ VIAddVersionKey "ProductVersion" "${VERSION}"
 VIAddVersionKey "LegalCopyright" "MIT licence"
 
 !define MUI_ABORTWARNING
+!define MUI_WELCOMEPAGE_TEXT "Setup installs Kestrune for you alone; no administrator is needed.$\r$\n$\r$\nPlease close Excel before you go on."
 !define MUI_FINISHPAGE_TITLE "Kestrune is installed"
 !define MUI_FINISHPAGE_TEXT "Start Excel: Kestrune is on its ribbon, and under Add-ins."
 !insertmacro MUI_PAGE_WELCOME
@@ -111,7 +112,9 @@ Function Fail
     DetailPrint $0
     MessageBox MB_OK|MB_ICONSTOP "$0" /SD IDOK
     Call UnregisterLibraries
+    Call RemoveFromExcel
     Call DeleteFiles
+    DeleteRegKey HKCU "${UNINSTALL_KEY}"
     SetErrorLevel ${STATUS_FAILED}
     Quit
 FunctionEnd
@@ -122,14 +125,19 @@ Function .onInit
 FunctionEnd
 
 Section "Kestrune"
-    ; The width of what lies there may be another.
-    Push $Width
-    ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "ExcelWidth"
+    ; What is there goes first: it may lie in another folder and be of another width.
+    ReadRegStr $0 HKCU "${UNINSTALL_KEY}" "InstallLocation"
     ${If} $0 != ""
-        StrCpy $Width $0
+        Push $Width
+        Push $INSTDIR
+        StrCpy $INSTDIR $0
+        ReadRegStr $Width HKCU "${UNINSTALL_KEY}" "ExcelWidth"
         Call UnregisterLibraries
+        Call RemoveFromExcel
+        Call DeleteFiles
+        Pop $INSTDIR
+        Pop $Width
     ${EndIf}
-    Pop $Width
 
     SetOverwrite try
     ClearErrors

@@ -140,12 +140,23 @@ def wait_until(what, holds):
         time.sleep(0.2)
 
 
+def forget_empty(folder, before):
+    """A folder of Windows', which real machines have."""
+    if folder.exists() and not any(folder.iterdir()) and folder.relative_to(PREFIX).as_posix() not in before[1]:
+        folder.rmdir()
+
+
 def try_installer(setup, preferences):
     home = PREFIX / "drive_c/users" / user() / "AppData/Local/Programs/Kestrune"
     add_in = rf'"C:\users\{user()}\AppData\Local\Programs\Kestrune\Kestrune.xlam"'
     before = state()
     wine(f"Z:{setup}", "/S", "/EXCEL=16", expect=2)
     check_as_before("a width that Excel does not have", before)
+    if not (PREFIX / "drive_c/windows/syswow64/regsvr32.exe").exists():
+        # Nothing here loads 32-bit DLLs: an installation that fails in the middle.
+        wine(f"Z:{setup}", "/S", "/EXCEL=32", expect=2)
+        forget_empty(home.parent, before)
+        check_as_before("DLLs that cannot be registered", before)
 
     wine(f"Z:{setup}", "/S")
     for name in ("KestruneXL.dll", "BRVBLib.dll", "BRXLLib.dll", "Kestrune.xlam", "Kestrune Help.html", "LICENSE.txt",
@@ -164,7 +175,13 @@ def try_installer(setup, preferences):
     wine(f"Z:{setup}", "/S")
     check("installed again, it is on the list once",
           [query(EXCEL + r"\Options", f"OPEN{i or ''}") for i in range(5)] == [*OTHERS, OTHERS[0], add_in, None])
-    wine("reg", "delete", EXCEL + r"\Options", "/v", "OPEN2", "/f")
+    wine(f"Z:{setup}", "/S", r"/D=C:\Another")
+    check("installed into another folder, it has left the first", not home.exists() and
+          query(EXCEL + r"\Options", "OPEN3") == r'"C:\Another\Kestrune.xlam"')
+    wine(f"Z:{setup}", "/S", rf"/D={add_in.strip(chr(34)).removesuffix(chr(92) + 'Kestrune.xlam')}")
+    check("and back again", not (PREFIX / "drive_c/Another").exists() and
+          query(EXCEL + r"\Options", "OPEN3") == add_in)
+    # Somebody else's add-in goes, and Excel closes the gap.
     wine("reg", "add", EXCEL + r"\Options", "/v", "OPEN2", "/d", add_in, "/f")
     wine("reg", "delete", EXCEL + r"\Options", "/v", "OPEN3", "/f")
 
@@ -172,9 +189,7 @@ def try_installer(setup, preferences):
     wine(home / "Uninstall.exe", "/S")
     wait_until("the uninstaller ends", lambda: not home.exists())
     check("the person's preferences stay", preferences.read_bytes() == text)
-    programs = home.parent
-    if not any(programs.iterdir()) and programs.relative_to(PREFIX).as_posix() not in before[1]:
-        programs.rmdir()  # a folder of Windows', which has it on real machines
+    forget_empty(home.parent, before)
     check_as_before("the uninstaller", before)
 
 
