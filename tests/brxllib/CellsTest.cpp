@@ -114,6 +114,18 @@ TEST_F(LabelsTest, AreTheNearestTextsAndHeadingDates) {
     EXPECT_LE(calls_of([&] { (void)library->column_label(cells("H900000").object()); }), 60);
 }
 
+TEST_F(LabelsTest, YearsBesideYearsHeadLines) {
+    write("K2", "Balance Sheet");
+    write("K3", 2026.0);
+    write("L3", 2027.0);
+    write("L5", 2000.0);
+    write("N2", "Total");
+    write("N3", 2030.0);
+    for (const auto& [cell, label] : {std::pair("K9", "$K$3"), {"L9", "$L$3"}, {"L3", "Nothing"}, {"N9", "$N$2"}}) {
+        EXPECT_EQ(address_of(library->column_label(cells(cell).object())), label) << cell;
+    }
+}
+
 TEST_F(LabelsTest, WhatIsInUseOfWholeRowsAndColumns) {
     EXPECT_EQ(address_of(library->in_use(cells("A:B").object())), "$A$1:$B$2000");
     EXPECT_EQ(address_of(library->in_use(cells("5:6").object())), "$A$5:$G$6");
