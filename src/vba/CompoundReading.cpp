@@ -148,11 +148,11 @@ class CompoundReader {
             storage.children.push_back(entry_of(row, depth));
         }
         std::sort(storage.children.begin(), storage.children.end(), [](const Entry& a, const Entry& b) {
-            return compare_names(directory_name(a.name), directory_name(b.name)) < 0;
+            return std::is_lt(compare_names(directory_name(a.name), directory_name(b.name)));
         });
         const auto twice =
             std::adjacent_find(storage.children.begin(), storage.children.end(), [](const Entry& a, const Entry& b) {
-                return compare_names(directory_name(a.name), directory_name(b.name)) == 0;
+                return std::is_eq(compare_names(directory_name(a.name), directory_name(b.name)));
             });
         if (twice != storage.children.end()) broken("two entries are called " + twice->name);
     }
@@ -191,7 +191,7 @@ class CompoundReader {
 const Entry* Entry::find(std::string_view child) const {
     const std::u16string wanted = directory_name(child);
     for (const Entry& entry : children) {
-        if (compare_names(directory_name(entry.name), wanted) == 0) return &entry;
+        if (std::is_eq(compare_names(directory_name(entry.name), wanted))) return &entry;
     }
     return nullptr;
 }

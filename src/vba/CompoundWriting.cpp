@@ -49,10 +49,11 @@ class Directory {
         }
         std::vector<std::uint32_t> order(storage.children.size());
         std::iota(order.begin(), order.end(), first);
-        std::sort(order.begin(), order.end(),
-                  [&](std::uint32_t a, std::uint32_t b) { return compare_names(rows[a].name, rows[b].name) < 0; });
+        std::sort(order.begin(), order.end(), [&](std::uint32_t a, std::uint32_t b) {
+            return std::is_lt(compare_names(rows[a].name, rows[b].name));
+        });
         for (std::size_t i = 1; i < order.size(); ++i) {
-            if (compare_names(rows[order[i - 1]].name, rows[order[i]].name) == 0) {
+            if (std::is_eq(compare_names(rows[order[i - 1]].name, rows[order[i]].name))) {
                 throw VbaError("two streams are called " + rows[order[i]].entry->name);
             }
         }

@@ -142,6 +142,7 @@ void check(const Project& project) {
 Entry write_project(const Project& project) {
     check(project);
     std::vector<Entry> streams;
+    streams.reserve(project.modules.size() + 2);
     for (const Module& module : project.modules) streams.push_back(Entry::stream(module.name, compress(module.code)));
     streams.push_back(Entry::stream("_VBA_PROJECT", std::string(no_cache)));
     streams.push_back(Entry::stream("dir", compress(dir_stream(project))));
