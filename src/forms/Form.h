@@ -24,7 +24,7 @@ class FormView {
 };
 
 // The keys that forms give a meaning; in boxes and lists others are the control's own.
-enum class Key : std::uint8_t { Tab, BackTab, Enter, Escape, Up, Down, Left, Right, Space };
+enum class Key : std::uint8_t { Tab, BackTab, Enter, Escape, Up, Down, Left, Right, Space, NextPage, PreviousPage };
 
 // A dialog: named controls and what is done when something happens to them (see Event.h). It knows no window; a
 // presenter shows it. Names that the form does not have are std::out_of_range: they are faults of ours.
@@ -109,6 +109,7 @@ class Form : private ControlHome {
     void walk_in_group(Control& from, bool forward);
     [[nodiscard]] Control* first_stop();
     bool press_arrow(Key key);
+    bool turn_page(bool forward);
 
     const FormDesign& design_;
     std::string caption_;

@@ -204,6 +204,23 @@ bool Form::press_arrow(Key key) {
     }
 }
 
+// Of the tabs that hold the focus, or of the first that can be used.
+bool Form::turn_page(bool forward) {
+    Control* tabs = nullptr;
+    for (const Control* holder = active_; holder && !tabs; holder = holder->container()) {
+        if (holder->is(Kind::Tabs)) tabs = find(holder->Name());
+    }
+    if (!tabs) {
+        const auto found =
+            std::ranges::find_if(controls_, [](const Control& one) { return one.is(Kind::Tabs) && one.usable(); });
+        if (found == controls_.end()) return false;
+        tabs = &*found;
+    }
+    const auto count = static_cast<std::int32_t>(tabs->List().size());
+    if (count > 1) choose(*tabs, (tabs->ListIndex() + (forward ? 1 : count - 1)) % count);
+    return true;
+}
+
 bool Form::press(Key key) {
     if (!visible_) return false;
     switch (key) {
@@ -211,6 +228,9 @@ bool Form::press(Key key) {
         case Key::BackTab:
             walk(key == Key::Tab);
             return true;
+        case Key::NextPage:
+        case Key::PreviousPage:
+            return turn_page(key == Key::NextPage);
         case Key::Enter: {
             Control* pressed = active_ && active_->is(Kind::Push) ? active_ : button(Role::Default);
             if (pressed) click(*pressed);

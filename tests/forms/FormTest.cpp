@@ -179,6 +179,14 @@ TEST_F(FormTest, GoesThroughItsControlsByKey) {
         EXPECT_FALSE(form["ckbHidden"].Checked());
         EXPECT_TRUE(form.press_access_key('A'));
         EXPECT_EQ(focus(), "optAll");
+        // Pages are turned from anywhere, and round.
+        for (const auto& [key, page] : {std::pair(Key::NextPage, 0), {Key::PreviousPage, 1}, {Key::PreviousPage, 0}}) {
+            form.go_to(form["txtName"]);
+            EXPECT_TRUE(form.press(key));
+            EXPECT_EQ(form["mpaMore"].ListIndex(), page);
+            EXPECT_EQ(focus(), "mpaMore");
+        }
+        form.go_to(form["optAll"]);
         // A control that goes away takes the focus with it no further than to the first.
         form["optAll"].Enabled(false);
         EXPECT_EQ(focus(), "txtName");

@@ -262,7 +262,11 @@ bool FormWindow::key_down(WPARAM key) {
     const bool unfolded = active && active->is(Kind::Combo) && SendMessageW(native(*active), CB_GETDROPPEDSTATE, 0, 0);
     switch (key) {
         case VK_TAB:
-            return !down(VK_CONTROL) && form_.press(down(VK_SHIFT) ? Key::BackTab : Key::Tab);
+            if (down(VK_CONTROL)) return form_.press(down(VK_SHIFT) ? Key::PreviousPage : Key::NextPage);
+            return form_.press(down(VK_SHIFT) ? Key::BackTab : Key::Tab);
+        case VK_PRIOR:
+        case VK_NEXT:
+            return down(VK_CONTROL) && form_.press(key == VK_PRIOR ? Key::PreviousPage : Key::NextPage);
         case VK_RETURN:
             return !unfolded && form_.press(Key::Enter);
         case VK_ESCAPE:
