@@ -35,8 +35,7 @@ std::optional<FormPlace> FormPlaces::place_of(std::string_view form) const {
 
 void FormPlaces::keep(std::string_view form, const FormPlace& place) const {
     if (key_.empty()) return;
-    const std::wstring text =
-        fmt::format(L"{} {} {:.2f} {:.2f}", place.left, place.top, place.width, place.height);
+    const std::wstring text = fmt::format(L"{} {} {:.2f} {:.2f}", place.left, place.top, place.width, place.height);
     static_cast<void>(RegSetKeyValueW(HKEY_CURRENT_USER, key_.c_str(), to_utf16(form).c_str(), REG_SZ, text.c_str(),
                                       static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t))));
 }
