@@ -179,6 +179,11 @@ TEST_F(LinksTest, TablesStandForTheirCells) {
         {"Jan", "D6", "=[@[Net '[k$']]]*0.2", "$C$6", false},
         {"Jan", "F7", "=Sales[[#This Row],[Month]]", "$B$7", false},
     };
+    // What names no table stands in one.
+    for (const char* outside : {"F6", "D5:F6"}) {
+        EXPECT_THROW(at("Jan", outside).Formula("=[@Tax]*2"), automation::AutomationError) << outside;
+    }
+    EXPECT_EQ(at("Jan", "D5").Formula(), Value(""));
     std::vector<std::string> expected;
     for (const auto& row : rows) {
         at(row.sheet, row.cell).Formula(row.formula);

@@ -5,6 +5,7 @@
 
 #include "formula/Convert.h"
 #include "formula/FormulaCheck.h"
+#include "formula/Lexer.h"
 #include "formula/Shift.h"
 #include "host/objects/ArrayFormulas.h"
 #include "host/objects/Refusal.h"
@@ -17,6 +18,16 @@ using automation::Value;
 
 // More than this is a sheet's worth of cells, which nobody means to fill one by one.
 constexpr std::int64_t most_cells = 32'000'000;
+
+// Whether a formula (without "=") speaks of the table that it stands in: "[Sales]", "[@Tax]".
+bool names_own_table(std::string_view text, formula::Notation notation) {
+    if (text.find('[') == std::string_view::npos) return false;
+    formula::Lexer lexer(text, notation);
+    for (formula::Token token = lexer.next(); token.kind != formula::TokenKind::end; token = lexer.next()) {
+        if (token.kind == formula::TokenKind::structured && token.text(text).starts_with('[')) return true;
+    }
+    return false;
+}
 
 // The element of an array for a place in the range, counted from 0; null where there is none.
 class Elements {
@@ -89,6 +100,16 @@ CellEntry ContentWriter::read(const Value& value, bool as_text) const {
     return as_text ? text_entry_of(member_, value, rules_) : entry_of(member_, value, rules_);
 }
 
+void ContentWriter::require_table(const CellEntry& entry, const Area& area) const {
+    if (!names_own_table(entry.formula, rules_.notation)) return;
+    Workbook& workbook = cells_.sheet().workbook();
+    const bool in_table = std::ranges::any_of(workbook.tables(), [&](const Table& table) {
+        return workbook.sheets()[static_cast<std::size_t>(table.sheet)].get() == &cells_.sheet() &&
+               table.all.contains(area);
+    });
+    if (!in_table) refuse(member_, "the formula '=" + entry.formula + "' names no table, and stands in none");
+}
+
 void ContentWriter::write_scalar(const Value& value) {
     const std::vector<StyleId> formats = cells_.formats();
     const auto texts = std::ranges::count_if(formats, [&](StyleId id) { return is_text(id); });
@@ -97,6 +118,7 @@ void ContentWriter::write_scalar(const Value& value) {
     const bool all_alike = texts == 0 || texts == static_cast<std::ptrdiff_t>(formats.size());
     const CellEntry entry = read(value, all_alike && texts != 0);
     const CellEntry as_text = all_alike ? CellEntry{} : read(value, true);
+    for (const Area& area : cells_.areas()) require_table(entry, area);
     if (entry.blank()) {
         put_everywhere(entry);
         return;
@@ -142,10 +164,11 @@ void ContentWriter::write_array(const Array& array) {
     // Everything is read before anything is written. A cell that keeps texts as typed takes what is no formula.
     std::vector<std::optional<CellEntry>> entries(array.elements().size());
     std::vector<std::optional<CellEntry>> as_texts(any_text ? array.elements().size() : 0);
-    each_cell([&](Position, std::ptrdiff_t index, bool text) {
+    each_cell([&](Position at, std::ptrdiff_t index, bool text) {
         if (index < 0) return;
         auto& entry = (text ? as_texts : entries)[static_cast<std::size_t>(index)];
         if (!entry) entry = read(array.elements()[static_cast<std::size_t>(index)], text);
+        require_table(*entry, Area::cell(at));
     });
     const CellEntry beyond = read(Value(automation::Error{static_cast<std::int32_t>(CellError::NA)}), false);
     clear_arrays();

@@ -34,6 +34,7 @@ class ContentWriter {
     void put(Position at, Position from, const CellEntry& entry);
     void put_content(Position at, Position from, const CellEntry& entry);
     [[nodiscard]] CellEntry read(const automation::Value& value, bool as_text) const;
+    void require_table(const CellEntry& entry, const Area& area) const;  // where the formula speaks of its own
     [[nodiscard]] StyleId restyled(StyleId style, const CellEntry& entry) const;
     [[nodiscard]] bool is_text(StyleId style) const;
     [[nodiscard]] bool covered(Position at) const;
