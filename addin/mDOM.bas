@@ -80,13 +80,10 @@ End Sub
 Public Sub ShowLesson(Optional ByVal Lesson As Variant)
     On Error Resume Next
     Dim target As Object
-    Dim book As Object
     If IsMissing(Lesson) Then Lesson = ClickedParameter()
     If Len(CStr(Lesson)) = 0 Then Exit Sub
     Set target = Commands()
-    If target Is Nothing Then Exit Sub
-    Set book = Application.Workbooks.Open(target.LessonPath & Lesson)
-    If book Is Nothing Then target.ShowLessonErrMsg
+    If Not target Is Nothing Then target.ShowLesson Lesson
 End Sub
 
 Public Function LessonPath() As String

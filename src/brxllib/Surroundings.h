@@ -1,8 +1,11 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
+#include "automation/Value.h"
 #include "excel/Workbook.h"
 #include "forms/Presenter.h"
 
@@ -30,6 +33,8 @@ class CustomFormats {
 struct Surroundings {
     forms::Presenter* presenter = nullptr;
     CustomFormats* formats = nullptr;
+    // A picture of a BGR color, as CommandBarButton.Picture takes it.
+    std::function<automation::Value(std::int32_t color)> swatch{};
 };
 
 }  // namespace kestrune::brxllib

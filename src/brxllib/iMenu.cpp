@@ -23,6 +23,16 @@ excel::CommandBar find_bar(const excel::Application& application, std::string_vi
     return bar;
 }
 
+void paint(const excel::CommandBarControl& control, std::int32_t color, const Surroundings& around) {
+    if (!around.swatch) {
+        throw automation::AutomationError(automation::hresult::object_required, "iMenu.AddButton",
+                                          "nothing makes pictures here");
+    }
+    const excel::CommandBarButton button(control.object());
+    button.Picture(around.swatch(color));
+    button.Style(excel::msoButtonIconAndCaption);
+}
+
 }  // namespace
 
 ObjectRef iMenu::worksheet_menu_bar() const {
@@ -54,7 +64,7 @@ ObjectRef iMenu::add_popup(const ObjectRef& parent, const std::string& caption, 
 
 ObjectRef iMenu::add_button(const ObjectRef& parent, const std::string& caption, const std::string& on_action,
                             const Text& parameter, Number face_id, Flag begin_group, const Text& tag, Number before,
-                            const Text& shortcut_text) {
+                            const Text& shortcut_text, Number swatch) {
     ControlDesign design;
     design.caption = caption;
     design.on_action = on_action;
@@ -64,7 +74,10 @@ ObjectRef iMenu::add_button(const ObjectRef& parent, const std::string& caption,
     design.tag = tag.value_or("");
     design.before = before;
     design.shortcut = shortcut_text.value_or("");
-    return brxllib::add_button(controls_of(parent), design).object();
+    const excel::CommandBarControl control = brxllib::add_button(controls_of(parent), design);
+    // A button without its swatch is better than none.
+    if (swatch) automation::ResumeNext{library_->trace}([&] { paint(control, *swatch, library_->around); });
+    return control.object();
 }
 
 std::int32_t iMenu::clear(const ObjectRef& parent) { return clear_controls(controls_of(parent)); }
@@ -81,7 +94,7 @@ const MemberTable& iMenu::members() {
         method<&M::add_popup>("AddPopup", 4, "Parent, Caption, [OnAction], [Tag], [BeginGroup], [Before]"),
         method<&M::add_button>("AddButton", 5,
                                "Parent, Caption, OnAction, [Parameter], [FaceId], [BeginGroup], [Tag], [Before], "
-                               "[ShortcutText]"),
+                               "[ShortcutText], [Swatch]"),
         method<&M::clear>("Clear", 6, "Parent"), method<&M::remove>("Remove", 7, "Parent, Caption"));
     static constexpr MemberTable table("iMenu", rows);
     return table;

@@ -28,12 +28,14 @@ class iMenu : public automation::Served<iMenu> {
     [[nodiscard]] automation::ObjectRef toolbar(const std::string& name);
     // Whether there was one.
     bool remove_toolbar(const std::string& name);
-    // A popup, which runs OnAction when it opens, and a button, which runs it when it is pressed.
+    // A popup, which runs OnAction when it opens, and a button, which runs it when it is pressed. Swatch: a BGR color
+    // that the button's face shows.
     automation::ObjectRef add_popup(const automation::ObjectRef& parent, const std::string& caption,
                                     const Text& on_action, const Text& tag, Flag begin_group, Number before);
     automation::ObjectRef add_button(const automation::ObjectRef& parent, const std::string& caption,
                                      const std::string& on_action, const Text& parameter, Number face_id,
-                                     Flag begin_group, const Text& tag, Number before, const Text& shortcut_text);
+                                     Flag begin_group, const Text& tag, Number before, const Text& shortcut_text,
+                                     Number swatch);
     // Deletes what a bar or a popup holds, Excel's own controls left alone; how many went.
     std::int32_t clear(const automation::ObjectRef& parent);
     // Deletes the controls with a caption; how many went.

@@ -20,7 +20,10 @@ AddIn::AddIn(const excel::Application& application, host::Macros& macros, forms:
     brvblib::Services services = native::services(trace, presenter, installation_folder());
     services.desktop = std::make_shared<PrintingDesktop>();
     brvblib::register_library(std::move(services));
-    brxllib::register_library(trace, {.presenter = &presenter, .formats = formats});
+    brxllib::register_library(trace, {.presenter = &presenter,
+                                      .formats = formats,
+                                      // The embedded Excel draws nothing: the color says what would be seen.
+                                      .swatch = [](std::int32_t color) { return automation::Value(color); }});
     // One for the add-in and for those who ask what it has on record.
     const automation::ObjectRef library = automation::CreateObject("BRXLLib.iPublic");
     automation::register_class("BRXLLib.iPublic", [library] { return library; });

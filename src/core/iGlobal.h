@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -39,6 +40,17 @@ class iGlobal : public automation::Served<iGlobal> {
     void toggle_auto_color() const;
     void run_auto_color() const;  // on the selection, whatever the moment
     void toggle_black_fonts() const;
+
+    // Opens a lesson by its file name, else the one whose menu item was clicked.
+    void show_lesson(const std::optional<std::string>& lesson) const;
+    // The name of a user style SmartCycle (1 to 15) and those of its styles, in an array counted from 0; Empty for any
+    // other number.
+    [[nodiscard]] automation::Value custom_smart_cycle_info(std::int32_t cycle) const;
+    // What the menus, boxes and popups of src/menus do. The popup is that of a SmartCycle's command.
+    template <auto body>
+    void act() const;
+    template <std::int32_t command>
+    void fill_popup() const;
 
     std::shared_ptr<SharedState> shared_;
 };

@@ -73,6 +73,7 @@ inline constexpr auto iglobal_interface = std::to_array<std::string_view>({
     "CustomSmartCycleInfo",
     "ApplySmartCycleStyle",
     "ToggleBlackFonts",
+    "ShowLesson",
 });
 
 // The dispatch id of a member; 0 when the interface has no such member.

@@ -106,6 +106,10 @@ inline constexpr std::int32_t msoControlPopup = 10;
 inline constexpr std::int32_t msoButtonDown = -1;
 inline constexpr std::int32_t msoButtonUp = 0;
 
+// MsoButtonStyle
+inline constexpr std::int32_t msoButtonCaption = 2;
+inline constexpr std::int32_t msoButtonIconAndCaption = 3;
+
 // MsoBarPosition
 inline constexpr std::int32_t msoBarTop = 1;
 

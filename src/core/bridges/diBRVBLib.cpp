@@ -60,6 +60,21 @@ void diBRVBLib::bind_hot_keys() const { automation::call(*hot_keys(), "Bind"); }
 
 void diBRVBLib::show_hot_key_manager() const { automation::call(*hot_keys(), "ShowManager"); }
 
+std::vector<std::pair<std::string, std::string>> diBRVBLib::hot_key_texts() const {
+    constexpr std::int32_t client = 1;
+    constexpr std::int32_t command = 3;
+    constexpr std::int32_t key = 7;
+    const automation::Value answer = automation::get(*hot_keys(), "Table");
+    const automation::Array* table = answer.array();
+    std::vector<std::pair<std::string, std::string>> keys;
+    const std::int32_t rows = table ? table->bound(0).count : 0;
+    for (std::int32_t row = 1; row <= rows; ++row) {
+        if (to_text(table->at(row, client)) != client_name || to_text(table->at(row, key)).empty()) continue;
+        keys.emplace_back(to_text(table->at(row, command)), to_text(table->at(row, key)));
+    }
+    return keys;
+}
+
 bool diBRVBLib::shows_examples_at_start() const { return to_boolean(call(Product, "ShowExamplesAtStart")); }
 
 bool diBRVBLib::allows_training() const { return to_boolean(call(Product, "AllowsTraining")); }

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/bridges/LibraryBridge.h"
@@ -67,6 +68,8 @@ class diBRVBLib : public LibraryBridge {
     void add_hot_key_macro(const HotKeyMacro& macro) const;
     void bind_hot_keys() const;
     void show_hot_key_manager() const;
+    // The keys that this client's commands have now: a number or a macro, and its key; none for those without.
+    [[nodiscard]] std::vector<std::pair<std::string, std::string>> hot_key_texts() const;
 
     // What the installation says: whether to show the examples workbook at this start, whether the tutorial is there,
     // and any value by name ("LessonPath"), Empty when it is absent.

@@ -200,7 +200,7 @@ ObjectRef diBRXLLib::add_button(const ObjectRef& parent, const ButtonDesign& des
     return automation::to_object(
         call(Menu, "AddButton",
              {parent, design.caption, design.on_action, design.parameter, optional(design.face_id), design.begin_group,
-              design.tag, optional(design.before), design.shortcut}));
+              design.tag, optional(design.before), design.shortcut, optional(design.color)}));
 }
 
 std::int32_t diBRXLLib::clear_controls(const ObjectRef& parent) const {
@@ -263,6 +263,9 @@ std::string diBRXLLib::auto_color_smart_cycle() const {
 }
 
 void diBRXLLib::toggle_auto_color() const { call(AutoColor, "Toggle"); }
+bool diBRXLLib::auto_color_is_on() const {
+    return automation::to_boolean(automation::get(automation::to_required_object(iAutoColor()), "bAutoColorOn"));
+}
 void diBRXLLib::auto_color_selection() const { call(AutoColor, "RunSelection"); }
 void diBRXLLib::auto_color_worksheet() const { call(AutoColor, "RunWorksheet"); }
 void diBRXLLib::auto_color_workbook() const { call(AutoColor, "RunWorkbook"); }

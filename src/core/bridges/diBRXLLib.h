@@ -65,6 +65,7 @@ struct ButtonDesign {
     std::optional<std::int32_t> face_id{};  // the number of one of Office's icons
     bool begin_group = false;               // a line in front of it
     std::optional<std::int32_t> before{};   // a position from 1; else at the end
+    std::optional<std::int32_t> color{};    // BGR; its face is a swatch of it
 };
 
 // The spreadsheet library: what workbooks, sheets, cells and formulas hold. The typed calls fail as automation calls
@@ -182,6 +183,7 @@ class diBRXLLib : public LibraryBridge {
     [[nodiscard]] std::string auto_color_smart_cycle() const;
     // Switches colouring as cells change on or off.
     void toggle_auto_color() const;
+    [[nodiscard]] bool auto_color_is_on() const;
     void auto_color_selection() const;
     void auto_color_worksheet() const;  // the active one
     void auto_color_workbook() const;   // the active one

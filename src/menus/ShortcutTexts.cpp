@@ -1,0 +1,38 @@
+#include "menus/ShortcutTexts.h"
+
+#include "automation/ResumeNext.h"
+
+namespace kestrune::menus {
+
+ShortcutTexts::ShortcutTexts(const core::SharedState& shared) {
+    const automation::ResumeNext attempt(shared.trace);
+    attempt([&] {
+        for (auto& [command, key] : shared.general().hot_key_texts()) keys_.emplace(command, key);
+    });
+}
+
+std::string ShortcutTexts::key(std::string_view command) const {
+    const auto found = keys_.find(std::string(command));
+    return found == keys_.end() ? std::string() : found->second;
+}
+
+std::string ShortcutTexts::text(std::string_view command) const {
+    const std::string assigned = key(command);
+    return assigned.empty() ? "[No shortcut assigned]" : "Shortcut: " + assigned;
+}
+
+bool has_key(const MenuRow& row) {
+    return (!row.request.empty() && row.request.find('.') == std::string_view::npos) || row.member == "BRUndo" ||
+           row.member == "BRRedo";
+}
+
+std::string plain_caption(std::string_view caption) {
+    std::string text;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && ++i == caption.size()) break;
+        text += caption[i];
+    }
+    return text;
+}
+
+}  // namespace kestrune::menus
