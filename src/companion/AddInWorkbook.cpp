@@ -7,6 +7,7 @@
 
 #include "companion/Files.h"
 #include "companion/Macros.h"
+#include "companion/Ribbon.h"
 #include "host/xlsx/package/Package.h"
 
 namespace kestrune::companion {
@@ -88,6 +89,9 @@ void make_add_in(const std::filesystem::path& folder, const std::string& target)
                 vba::write_compound(vba::write_project(project)));
     package.add_relationship(workbook, "http://schemas.microsoft.com/office/2006/relationships/vbaProject",
                              "xl/vbaProject.bin");
+    package.add("customUI/customUI.xml", "application/xml", ribbon_xml(menus::menu_rows()));
+    package.add_relationship("", "http://schemas.microsoft.com/office/2006/relationships/ui/extensibility",
+                             "customUI/customUI.xml");
     package.save(target);
 }
 

@@ -11,6 +11,7 @@ import tempfile
 import unittest
 import zipfile
 from pathlib import Path
+from xml.etree import ElementTree
 
 PROGRAM, SOURCE = sys.argv[1], Path(sys.argv[2])
 
@@ -49,7 +50,7 @@ class Companion(unittest.TestCase):
         macros = self.macros()
         self.assertEqual(sorted(named - set(macros)), [])
         # A button, a key and Excel's undo list call without arguments.
-        for name in named - {"ApplySmartCycleStyle"}:
+        for name in named - {"ApplySmartCycleStyle", "RunRibbonButton"}:
             self.assertRegex(macros[name], rf"{name}\((Optional [^,]*)?\)")
         self.assertIn('Forward "UpdateCurrencyStyleTogglePopup"', macros["UpdateCurrencyStyleTogglePopup"])
 
@@ -68,6 +69,24 @@ class Companion(unittest.TestCase):
             self.assertNotIn("@", code)
             for name in re.findall(r"\bmDOM\.(\w+)", code):
                 self.assertIn(name, self.macros())
+
+    def test_has_every_command_on_the_ribbon(self):
+        with zipfile.ZipFile(self.book) as book:
+            tab = ElementTree.fromstring(book.read("customUI/customUI.xml"))
+            self.assertRegex(book.read("_rels/.rels").decode(), r'ui/extensibility" Target="/?customUI/customUI.xml"')
+        controls = [element for element in tab.iter() if "id" in element.attrib]
+        self.assertEqual(len({control.get("id") for control in controls}), len(controls))
+        buttons = [control for control in controls if control.tag.endswith("}button")]
+        macros = self.macros()
+        for button in buttons:
+            self.assertTrue(button.get("label"))
+            self.assertNotIn("&", button.get("label"))
+            self.assertEqual(button.get("onAction"), "mDOM.RunRibbonButton")
+        tags = [button.get("tag") for button in buttons]
+        requests = {int(tag.split(".")[0]) for tag in tags if tag[0].isdigit()}
+        self.assertEqual(sorted(set(range(103)) - requests), [])
+        self.assertEqual([tag for tag in tags if not tag[0].isdigit() and tag not in macros], [])
+        self.assertIn("RunRibbonButton", macros)
 
     def test_the_same_sources_give_the_same_bytes(self):
         again = Path(self.folder.name) / "again.xlam"
