@@ -34,7 +34,7 @@ VIAddVersionKey "LegalCopyright" "MIT licence"
 !define MUI_ABORTWARNING
 !define MUI_WELCOMEPAGE_TEXT "Setup installs Kestrune for you alone; no administrator is needed.$\r$\n$\r$\nPlease close Excel before you go on."
 !define MUI_FINISHPAGE_TITLE "Kestrune is installed"
-!define MUI_FINISHPAGE_TEXT "Start Excel: Kestrune loads with it."
+!define MUI_FINISHPAGE_TEXT "Start Excel: Kestrune has a tab on its ribbon."
 !insertmacro MUI_PAGE_WELCOME
 !insertmacro MUI_PAGE_LICENSE "${STAGE}\common\LICENSE.txt"
 !insertmacro MUI_PAGE_DIRECTORY

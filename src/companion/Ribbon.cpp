@@ -20,11 +20,20 @@ std::string escaped(std::string_view text) {
     std::string out;
     for (const char c : text) {
         switch (c) {
-            case '&': out += "&amp;"; break;
-            case '<': out += "&lt;"; break;
-            case '>': out += "&gt;"; break;
-            case '"': out += "&quot;"; break;
-            default: out += c;
+            case '&':
+                out += "&amp;";
+                break;
+            case '<':
+                out += "&lt;";
+                break;
+            case '>':
+                out += "&gt;";
+                break;
+            case '"':
+                out += "&quot;";
+                break;
+            default:
+                out += c;
         }
     }
     return out;
@@ -50,9 +59,10 @@ const brvblib::CommandText* command_of(std::string_view request) {
 class Tab {
   public:
     explicit Tab(std::span<const MenuRow> rows) : rows_(rows) {
-        out_ = "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
-               "<customUI xmlns=\"http://schemas.microsoft.com/office/2006/01/customui\"><ribbon><tabs>\n"
-               "<tab id=\"Kestrune.Tab\" label=\"Kestrune\">\n";
+        out_ =
+            "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n"
+            "<customUI xmlns=\"http://schemas.microsoft.com/office/2006/01/customui\"><ribbon><tabs>\n"
+            "<tab id=\"Kestrune.Tab\" label=\"Kestrune\">\n";
         while (at_ < rows_.size()) add_group();
         out_ += "</tab>\n</tabs></ribbon></customUI>\n";
     }
@@ -81,8 +91,9 @@ class Tab {
     void add_button(const MenuRow& row) {
         const brvblib::CommandText* command = command_of(row.request);
         const std::string label = row.caption.empty() && command ? std::string(command->name) : plain(row.caption);
-        out_ += fmt::format("<button id=\"Kestrune.Button{}\" label=\"{}\" tag=\"{}\" onAction=\"mDOM.RunRibbonButton\"", at_,
-                            escaped(label), row.request.empty() ? row.member : row.request);
+        out_ +=
+            fmt::format("<button id=\"Kestrune.Button{}\" label=\"{}\" tag=\"{}\" onAction=\"mDOM.RunRibbonButton\"",
+                        at_, escaped(label), row.request.empty() ? row.member : row.request);
         if (command) out_ += fmt::format(" supertip=\"{}\"", escaped(command->description));
         out_ += "/>\n";
     }
