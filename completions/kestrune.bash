@@ -2,7 +2,7 @@
 _kestrune() {
     local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]} command=${COMP_WORDS[1]}
     if ((COMP_CWORD == 1)); then
-        COMPREPLY=($(compgen -W "run commands keys cell trace show diff prefs --help --version" -- "$word"))
+        COMPREPLY=($(compgen -W "run commands keys menu cell trace show diff prefs --help --version" -- "$word"))
         return
     fi
     case $previous in
@@ -16,6 +16,7 @@ _kestrune() {
     if [[ $word == -* ]]; then
         case $command in
             run) COMPREPLY=($(compgen -W "-o --output --in-place --force --prefs --set --answer --json --trace --help" -- "$word")) ;;
+            menu) COMPREPLY=($(compgen -W "--json --prefs --set --help" -- "$word")) ;;
             show) COMPREPLY=($(compgen -W "--html --color --classes --json --prefs --set --help" -- "$word")) ;;
             prefs)
                 case ${COMP_WORDS[2]} in
@@ -35,7 +36,7 @@ _kestrune() {
     fi
     compopt -o filenames
     if [[ $command == run ]] && ((COMP_CWORD > 2)); then
-        COMPREPLY=($(compgen -W "undo redo history" -- "$word"))
+        COMPREPLY=($(compgen -W "undo redo history menu:" -- "$word"))
     fi
     COMPREPLY+=($(compgen -f -- "$word"))
 }

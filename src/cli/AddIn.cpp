@@ -36,7 +36,7 @@ AddIn::AddIn(const excel::Application& application, host::Macros& macros, forms:
     automation::call(*public_, "NewPublic", {application.object(), application.ActiveWorkbook().object()});
     global_ = automation::to_object(automation::call(*public_, "NewGlobal"));
     if (!global_) throw Failure("the add-in did not start");
-    add_macros(macros, application.ActiveWorkbook().Name());
+    add_macros(macros, application);
     const automation::ObjectRef general = automation::CreateObject("BRVBLib.iPublic");
     const automation::ObjectRef keys = automation::to_object(automation::get(*general, "iHotKeys"));
     hot_keys_ = automation::to_object(automation::get(*keys, "Registry"));
@@ -47,17 +47,22 @@ void AddIn::set_options(const std::vector<std::string>& options) {
     settings::hand_over_auto_color(*state_);
 }
 
-void AddIn::add_macros(host::Macros& macros, const std::string& workbook) const {
+void AddIn::add_macros(host::Macros& macros, const excel::Application& application) const {
     for (const automation::Member& member : core::iGlobal::members().rows()) {
         if (!member.is_method) continue;
         // The macros stay behind when the add-in goes.
         const std::weak_ptr<automation::Object> commands = global_;
-        macros.add(workbook, "mDOM." + std::string(member.name), [commands, name = member.name](auto given) {
-            automation::Arguments arguments;
-            arguments.positional.assign(given.begin(), given.end());
-            const automation::ObjectRef object = commands.lock();
-            return object ? automation::call(*object, name, std::move(arguments)) : automation::Value();
-        });
+        macros.add(application.ActiveWorkbook().Name(), "mDOM." + std::string(member.name),
+                   [commands, application, name = member.name](auto given) {
+                       automation::Arguments arguments;
+                       arguments.positional.assign(given.begin(), given.end());
+                       // A menu item's action is the macro alone; the item that is clicked says which command.
+                       if (given.empty() && name == "RunMacro") {
+                           arguments.positional.emplace_back(application.CommandBars().ActionControl().Parameter());
+                       }
+                       const automation::ObjectRef object = commands.lock();
+                       return object ? automation::call(*object, name, std::move(arguments)) : automation::Value();
+                   });
     }
 }
 

@@ -37,7 +37,7 @@ class AddIn {
     [[nodiscard]] automation::Object& undo_redo() { return *undo_redo_; }  // the spreadsheet library's iUndoRedo
 
   private:
-    void add_macros(host::Macros& macros, const std::string& workbook) const;
+    void add_macros(host::Macros& macros, const excel::Application& application) const;
 
     std::shared_ptr<core::SharedState> state_;
     automation::ObjectRef undo_redo_;

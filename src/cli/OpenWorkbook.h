@@ -7,6 +7,7 @@
 #include "cli/HostFormats.h"
 #include "excel/Application.h"
 #include "host/objects/HostSession.h"
+#include "host/objects/bars/Click.h"
 #include "host/objects/keys/KeyPress.h"
 #include "host/xlsx/WorkbookFile.h"
 
@@ -25,6 +26,10 @@ class OpenWorkbook {
     [[nodiscard]] const host::HostSession& session() const { return session_; }
     // Presses a key; what comes of it.
     host::KeyPress press(const keys::Key& key) { return host::press_key(session_, key); }
+    // Excel's menus and toolbars; null until somebody asked the application for them.
+    [[nodiscard]] const host::CommandBars* command_bars() const { return session_.command_bars.get(); }
+    // Runs a control's action; what its macro answers.
+    automation::Value click(const std::shared_ptr<host::BarControl>& control) { return host::click(session_, control); }
     // What Excel may run by name.
     [[nodiscard]] host::Macros& macros() { return session_.macros; }
     // What the libraries ask about number formats of open workbooks.

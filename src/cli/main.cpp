@@ -12,6 +12,7 @@
 #include "cli/cell/CellCommand.h"
 #include "cli/diff/DiffCommand.h"
 #include "cli/keys/KeysCommand.h"
+#include "cli/menu/MenuCommand.h"
 #include "cli/prefs/PrefsCommand.h"
 #include "cli/run/RunCommand.h"
 #include "cli/show/ShowCommand.h"
@@ -28,6 +29,8 @@ Examples:
       Selects cells, steps the Currency SmartCycle, applies entry 2 of the Percent SmartCycle.
   kestrune commands
       Lists the 103 commands.
+  kestrune menu model.xlsx Kestrune/Format
+      Shows what stands on the menu; menu:Kestrune/Format/Currency/3 is the step that clicks.
   kestrune cell model.xlsx Inputs!C5 --json
       Says everything about a cell.
   kestrune trace model.xlsx Inputs!C5 --dependents --depth 3
@@ -61,9 +64,8 @@ void add_run(CLI::App& app, RunOptions& options) {
     command->add_flag("--trace", options.trace, "Tell on standard error what commands skipped");
     add_settings(*command, options.prefs, options.settings);
     command->add_option("STEP", options.steps,
-                        "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, key:Ctrl+Shift+4 presses a key, undo:2 "
-                        "undoes, redo, history, "
-                        "RunAutoColor a member");
+                        "@Sheet1!B2:C5 selects, 20 or 20.3 runs a command, key:Ctrl+Shift+4 presses a key, "
+                        "menu:Kestrune/Format/Currency/3 clicks, undo:2 undoes, redo, history, RunAutoColor a member");
     command->footer(
         "Steps run from left to right in one session; without steps the workbook is saved as it is.\n"
         "Without -o and --in-place nothing is saved.\n"
@@ -129,6 +131,16 @@ void add_show(CLI::App& app, ShowOptions& options) {
     command->add_flag("--json", options.json, "The classes as JSON, one object a cell");
     add_settings(*command, options.prefs, options.settings);
     command->callback([&options] { show(options); });
+}
+
+void add_menu(CLI::App& app, MenuOptions& options) {
+    CLI::App* command = app.add_subcommand("menu", "Show the menus and the toolbar as a tree, with keys and requests");
+    command->add_option("WORKBOOK", options.workbook, "The .xlsx or .xlsm file to open")->required();
+    command->add_option("MENU", options.path, "Only what this opens, captions or numbers: Kestrune/Format/Currency");
+    command->add_flag("--json", options.json, "As JSON");
+    add_settings(*command, options.prefs, options.settings);
+    command->footer("'kestrune run WORKBOOK menu:Kestrune/Format/Currency/3' clicks.");
+    command->callback([&options] { show_menus(options); });
 }
 
 void add_trace(CLI::App& app, TraceOptions& options) {
@@ -197,10 +209,12 @@ int run_program(int argc, char** argv) {
     TraceOptions trace_options;
     CommandsOptions commands_options;
     KeysOptions keys_options;
+    MenuOptions menu_options;
     PrefsOptions prefs_options;
     add_run(app, run_options);
     add_commands(app, commands_options);
     add_keys(app, keys_options);
+    add_menu(app, menu_options);
     add_cell(app, cell_options);
     add_trace(app, trace_options);
     add_show(app, show_options);

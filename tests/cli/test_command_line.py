@@ -292,6 +292,57 @@ class HotKeys(CommandLineTest):
         self.assertEqual([line for line in document.splitlines() if line.startswith("| `")], rows)
 
 
+class Menus(CommandLineTest):
+    def tree(self, *arguments):
+        return json.loads(self.run_ok("menu", self.book, *arguments, "--json").stdout)
+
+    def test_the_menus_are_shown_as_they_open(self):
+        menu, tutorial, toolbar = self.tree()
+        self.assertEqual([root["caption"] for root in (menu, tutorial, toolbar)],
+                         ["Kestrune", "BR Tutorial", "Kestrune (toolbar)"])
+        (currency,) = self.tree("kestrune/&format/CURRENCY")
+        self.assertEqual((currency["path"], currency["key"], currency["access_key"]),
+                         ("Kestrune/Format/Currency", "Ctrl+Shift+4", "c"))
+        self.assertEqual([item["parameter"] for item in currency["items"]], [f"20.{i}" for i in range(1, 11)])
+        by_path = {}
+
+        def gather(items):
+            for item in items:
+                self.assertNotIn(item["path"], by_path)
+                by_path[item["path"]] = item
+                gather(item.get("items", []))
+
+        gather([menu, toolbar])
+        colors = by_path["Kestrune/Format/My Color SmartCycles/Blue Black"]["items"]
+        self.assertEqual([(item["caption"], item["color"]) for item in colors],
+                         [("Color 1", "#0000FF"), ("Color 2", "#000000")])
+        self.assertEqual((by_path["Kestrune/Undo"]["enabled"], by_path["Kestrune/View/Toggle Gridlines"]["checked"]),
+                         (False, True))
+        settings = self.folder / "settings.xml"
+        self.run_ok("prefs", "init", "--prefs", settings)
+        settings.write_text(settings.read_text().replace("<Name>Blue Black SmartCycle<", "<Name>Ours SmartCycle<"))
+        page = self.run_ok("menu", self.book, "--prefs", settings).stdout
+        self.assertRegex(page, r"(?m)^ +Smart Copy Right +Ctrl\+Shift\+R +0$")
+        self.assertRegex(page, r"(?m)^ +Color 1 +46\.1 +\[#0000FF\]$")
+        self.assertRegex(page, r"(?m)^  Undo +BRUndo +\[greyed\]$")
+        self.assertRegex(page, r"(?m)^ +Ours +Ctrl\+Shift\+F$")
+
+    def test_a_click_runs_the_command(self):
+        out, same = self.folder / "out.xlsx", self.folder / "same.xlsx"
+        steps = ("run", self.book, "-o", out, "@Inputs", "menu:Kestrune/Format/Currency/3")
+        report = json.loads(self.run_ok(*steps, "menu:kestrune/view/zoom &in", "--json").stdout)
+        self.assertEqual((report[1]["clicked"], report[1]["did"], report[1]["ran"]),
+                         ("Kestrune/Format/Currency/BR US Dollar Two Decimals", "20.3", True))
+        self.run_ok("run", self.book, "-o", same, "@Inputs", "20.3", "87")
+        self.assertEqual(json.loads(self.run_ok("diff", out, same, "--json").stdout), [])
+        self.run_ok(*steps, "menu:Kestrune/Undo")
+        self.assertEqual(json.loads(self.run_ok("diff", out, self.book, "--json").stdout), [])
+        self.run_ok("run", self.book, "-o", out, "@Inputs", "menu:Kestrune (toolbar)/Percent/2", "--json")
+        self.assertEqual(openpyxl.load_workbook(out)["Model"]["C3"].number_format, "0.0%_);(0.0%)")
+        lesson = json.loads(self.run_ok("run", self.book, "menu:BR Tutorial/2/1/1", "--json").stdout)
+        self.assertIn("lesson", lesson[0]["messages"][0]["text"])
+
+
 class Refusing(CommandLineTest):
     def refused(self, status, needle, *arguments):
         result = kestrune(*arguments)
@@ -348,6 +399,22 @@ class Refusing(CommandLineTest):
                 (2, "KEY", "keys", "set", "21")):
             self.refused(status, needle, *arguments)
         self.assertEqual(list(self.config.rglob("HotKeys*")), [])
+
+    def test_clicks_on_what_is_not_there(self):
+        out = self.folder / "out.xlsx"
+        for status, needle, way in (
+                (1, "no 'Formt' on Kestrune, which has 18 items; nearest: 'Format', ", "Kestrune/Formt/Currency/3"),
+                (1, "no 'Excel' on the menu bar", "Excel"),
+                (1, "no item 99 on Kestrune/Format/Currency, which has 10 items", "Kestrune/Format/Currency/99"),
+                (1, "Kestrune/Format/Currency: is a menu", "Kestrune/Format/Currency"),
+                (1, "Kestrune/Redo: is greyed out", "Kestrune/Redo"),
+                (1, "My SmartCycle 15 is greyed out", "Kestrune/Format/My SmartCycles/My SmartCycle 15/1"),
+                (1, "opens no menu that could have 'x'", "Kestrune/Undo/x"),
+                (2, "no way through the menus", ""),
+                (2, "no way through the menus", "Kestrune//Format/")):
+            self.refused(status, needle, "run", self.book, "-o", out, "@A1", "20", "menu:" + way)
+            self.assertFalse(out.exists(), way)
+        self.refused(1, "nearest: 'Kestrune'", "menu", self.book, "Kestrun")
 
     def test_changes_a_signed_workbook_only_when_told_to(self):
         signed = self.folder / "signed.xlsx"

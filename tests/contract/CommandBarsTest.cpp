@@ -36,6 +36,12 @@ TEST_F(Likely, CommandBarsTakeControlsAndLetGoOfThem) {
               Value("Smart &Copy"));
     EXPECT_EQ(to_object(call(menu, "FindControl", Arguments{}.name("Tag", "copy"))), nullptr) << "not in popups";
     EXPECT_EQ(to_object(get(bars, "ActionControl")), nullptr);
+    EXPECT_NE(call_refused(button, "Execute"), ok) << "it is greyed";
+    put(button, "Enabled", true);
+    EXPECT_NE(call_refused(button, "Execute"), ok) << "no workbook has the macro";
+    put(button, "OnAction", "");
+    EXPECT_EQ(call_refused(button, "Execute"), ok) << "a click on it does nothing";
+    EXPECT_EQ(to_object(get(bars, "ActionControl")), nullptr);
     EXPECT_NE(call_refused(controls, "Item", {"Nobody's"}), ok);
     EXPECT_NE(call_refused(bars, "Item", {"Nobody's"}), ok);
     EXPECT_NE(call_refused(menu, "Delete"), ok) << "Excel's own bar";

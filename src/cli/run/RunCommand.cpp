@@ -20,6 +20,7 @@
 #include "cli/run/FormReport.h"
 #include "cli/run/HistorySteps.h"
 #include "cli/run/KeyStep.h"
+#include "cli/run/MenuStep.h"
 #include "cli/run/Select.h"
 #include "cli/run/Step.h"
 
@@ -161,6 +162,7 @@ class Session {
         std::string what;
         HistoryReport history;
         std::optional<KeyReport> key;
+        std::optional<MenuReport> menu;
         if (const auto* select = std::get_if<SelectStep>(&step)) {
             select_cells(book, select->target);
         } else if (const auto* request = std::get_if<RequestStep>(&step)) {
@@ -178,6 +180,10 @@ class Session {
             key = run_key_step(book, pressed->key);
             what = key->did;
             ran = key->ran;
+        } else if (const auto* clicked = std::get_if<MenuStep>(&step)) {
+            menu = run_menu_step(book, add_in, clicked->path);
+            what = fmt::format("{}: {}{}", menu->clicked, menu->runs, menu->ran ? "" : ": a command may not run now");
+            ran = menu->ran;
         }
         const std::int64_t calls = book.session().calls() - before;
         if (std::holds_alternative<SelectStep>(step)) {
@@ -194,6 +200,7 @@ class Session {
             if (!gone_to.empty()) entry["selection"] = gone_to;
             entry.update(history.facts);
             if (key) entry.update({{"key", key->key}, {"did", key->did}});
+            if (menu) entry.update({{"clicked", menu->clicked}, {"did", menu->runs}});
             return entry;
         }
         if (!gone_to.empty()) what += fmt::format(", to {}", gone_to);

@@ -56,8 +56,11 @@ KeyStep parse_key(std::string_view text) {
 
 Step parse_step(std::string_view text) {
     constexpr std::string_view key_mark = "key:";
+    constexpr std::string_view menu_mark = "menu:";
     if (automation::same_text(text.substr(0, key_mark.size()), key_mark))
         return parse_key(text.substr(key_mark.size()));
+    if (automation::same_text(text.substr(0, menu_mark.size()), menu_mark))
+        return MenuStep{parse_menu_path(text.substr(menu_mark.size()))};
     if (text.starts_with('@')) {
         if (text.size() == 1) throw UsageError("@: a selection needs a reference or a name, such as @Sheet1!B2:C5");
         return SelectStep{std::string(text.substr(1))};
@@ -70,7 +73,8 @@ Step parse_step(std::string_view text) {
     if (text.empty() || !member || !member->is_method || member->required_count > 0) {
         throw UsageError(
             fmt::format("{}: is not a step; a step is a selection (@Sheet1!B2:C5), a command request (20.3), a key "
-                        "(key:Ctrl+Shift+4), undo, redo, history or one of iGlobal's members",
+                        "(key:Ctrl+Shift+4), a click (menu:Kestrune/Format/Currency/3), undo, redo, history or one of "
+                        "iGlobal's members",
                         text));
     }
     return MemberStep{std::string(member->name)};

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <variant>
 
+#include "cli/menu/MenuPath.h"
 #include "core/CommandTable.h"
 #include "keys/Key.h"
 
@@ -29,7 +30,10 @@ struct HistoryStep {
 struct KeyStep {
     keys::Key key;
 };
-using Step = std::variant<SelectStep, RequestStep, MemberStep, HistoryStep, KeyStep>;
+struct MenuStep {
+    MenuPath path;
+};
+using Step = std::variant<SelectStep, RequestStep, MemberStep, HistoryStep, KeyStep, MenuStep>;
 
 // Reads a step as typed. UsageError for what is none, and for a command that does not exist.
 Step parse_step(std::string_view text);

@@ -58,16 +58,6 @@ std::shared_ptr<CommandBar> menu_bar(std::string name, const Popups& popups) {
     return bar;
 }
 
-std::string plain(std::string_view caption) {
-    std::string text;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && (i + 1 == caption.size() || caption[i + 1] != '&')) continue;
-        if (caption[i] == '&') ++i;
-        text += caption[i];
-    }
-    return text;
-}
-
 }  // namespace
 
 std::shared_ptr<CommandBars> CommandBars::built_in() {
@@ -87,8 +77,18 @@ void discard(CommandBar& bar) {
     }
 }
 
+std::string plain_caption(std::string_view caption) {
+    std::string text;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (caption[i] == '&' && (i + 1 == caption.size() || caption[i + 1] != '&')) continue;
+        if (caption[i] == '&') ++i;
+        text += caption[i];
+    }
+    return text;
+}
+
 bool same_caption(std::string_view caption, std::string_view text) {
-    return automation::same_text(plain(caption), plain(text));
+    return automation::same_text(plain_caption(caption), plain_caption(text));
 }
 
 }  // namespace kestrune::host

@@ -2,28 +2,11 @@
 
 #include <algorithm>
 
+#include "host/objects/bars/Click.h"
 #include "host/objects/bars/CommandBarObject.h"
 #include "host/objects/bars/ControlsObject.h"
 
 namespace kestrune::host {
-namespace {
-
-// Makes a control the one whose action runs, as long as it lives.
-class Action {
-  public:
-    Action(CommandBars& bars, const std::shared_ptr<BarControl>& control) : bars_(bars), before_(bars.action_control) {
-        bars_.action_control = control;
-    }
-    ~Action() { bars_.action_control = before_; }
-    Action(const Action&) = delete;
-    Action& operator=(const Action&) = delete;
-
-  private:
-    CommandBars& bars_;
-    std::weak_ptr<BarControl> before_;
-};
-
-}  // namespace
 
 template <class Derived>
 ObjectRef ControlObject<Derived>::parent() const {
@@ -59,10 +42,7 @@ template <class Derived>
 void ControlObject<Derived>::execute() {
     const BarControl& control = get("Execute");
     if (!control.enabled) refuse_bar(full("Execute"), "the control is greyed out");
-    if (control.on_action.empty()) return;
-    const Action action(*this->session().command_bars, control_);
-    const std::string macro = control.on_action;  // the control may go while its action runs
-    this->session().run_call(macro);
+    click(this->session(), control_);
 }
 
 template class ControlObject<ButtonObject>;
