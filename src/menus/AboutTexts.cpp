@@ -73,15 +73,15 @@ void AboutHidingAndUnhiding(const SharedState& shared) {
     const NamedCommand rows(shared, shortcuts, 67);
     const NamedCommand columns(shared, shortcuts, 68);
     const NamedCommand unhide(shared, shortcuts, 77);
-    show(shared, "About Hiding and Unhiding",
-         {"Excel's default method for hiding rows and columns has a major weakness:  "
-          "It makes the hidden selection very difficult to locate.",
-          "Kestrune emphasizes and makes more easily accessible 'grouping' commands that leave a nice record of "
-          "hidden rows and columns.",
-          fmt::format("If you have been hiding rows and columns the old way, try '{} ({})' or '{} ({})' in this menu "
-                      "to get started.  Try '{}' ({}) to fix this problem.",
-                      rows.caption, rows.shortcut, columns.caption, columns.shortcut, unhide.caption,
-                      unhide.shortcut)});
+    show(
+        shared, "About Hiding and Unhiding",
+        {"Excel's default method for hiding rows and columns has a major weakness:  "
+         "It makes the hidden selection very difficult to locate.",
+         "Kestrune emphasizes and makes more easily accessible 'grouping' commands that leave a nice record of "
+         "hidden rows and columns.",
+         fmt::format("If you have been hiding rows and columns the old way, try '{} ({})' or '{} ({})' in this menu "
+                     "to get started.  Try '{}' ({}) to fix this problem.",
+                     rows.caption, rows.shortcut, columns.caption, columns.shortcut, unhide.caption, unhide.shortcut)});
 }
 
 void AboutTrainingMenu(const SharedState& shared) {

@@ -134,7 +134,8 @@ void fill_cycle_popup(const SharedState& shared, std::string_view command) {
     const CyclePopup& popup = cycle_popup(command);
     for (const std::string_view place : {"Kestrune.Menu.", "Kestrune.Toolbar."}) {
         ObjectRef control;
-        attempt.assign(control, [&] { return shared.spreadsheet().find_control_by_tag(fmt::format("{}{}", place, command)); });
+        attempt.assign(control,
+                       [&] { return shared.spreadsheet().find_control_by_tag(fmt::format("{}{}", place, command)); });
         if (control) fill(shared, popup, control);
     }
 }

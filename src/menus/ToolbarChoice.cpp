@@ -22,9 +22,8 @@ std::string path_of_choice(const core::SharedState& shared) { return shared.gene
 bool toolbar_is_shown(const core::SharedState& shared) {
     const automation::Trace nobody;  // a toolbar that is not there is no failure
     bool shown = false;
-    ResumeNext(nobody).assign(shown, [&] {
-        return excel::Application(shared.application).CommandBars().Item(toolbar_name).Visible();
-    });
+    ResumeNext(nobody).assign(
+        shown, [&] { return excel::Application(shared.application).CommandBars().Item(toolbar_name).Visible(); });
     return shown;
 }
 

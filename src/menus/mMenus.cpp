@@ -51,9 +51,8 @@ constexpr auto row_states = std::to_array<RowState>({
 std::string_view key_of(const MenuRow& row) { return row.request.empty() ? row.member : row.request; }
 
 const MenuRow* row_of(std::span<const MenuRow> rows, std::string_view key) {
-    const auto found = std::ranges::find_if(rows, [&](const MenuRow& row) {
-        return row.kind != MenuRow::Kind::Popup && key_of(row) == key;
-    });
+    const auto found = std::ranges::find_if(
+        rows, [&](const MenuRow& row) { return row.kind != MenuRow::Kind::Popup && key_of(row) == key; });
     return found == rows.end() ? nullptr : &*found;
 }
 
@@ -128,8 +127,8 @@ void build(const SharedState& shared, const ObjectRef& parent, std::span<const M
         if (row.kind == MenuRow::Kind::Popup || row.request.find('.') != std::string_view::npos) continue;
         if (!has_key(row)) continue;
         attempt([&] {
-            shared.spreadsheet().set_control_tooltip(control, plain_caption(captions[i]) + ".  " +
-                                                                  shortcuts.text(key_of(row)));
+            shared.spreadsheet().set_control_tooltip(control,
+                                                     plain_caption(captions[i]) + ".  " + shortcuts.text(key_of(row)));
         });
     }
 }
@@ -197,9 +196,8 @@ bool is_built(const SharedState& shared) {
 void remove_own(SharedState& shared) {
     const ResumeNext attempt(shared.trace);
     shared.product_menu.reset();
-    attempt([&] {
-        shared.spreadsheet().remove_controls(shared.spreadsheet().worksheet_menu_bar(), product_menu_caption);
-    });
+    attempt(
+        [&] { shared.spreadsheet().remove_controls(shared.spreadsheet().worksheet_menu_bar(), product_menu_caption); });
     attempt([&] { shared.spreadsheet().remove_toolbar(toolbar_name); });
 }
 

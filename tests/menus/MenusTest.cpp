@@ -257,9 +257,12 @@ TEST_F(MenusTest, BoxesSayWhatTheyAreAbout) {
              Box{"AboutBRPaintbrush", "About BR Paintbrush", {"two significant advantages:\n\nFirst, "}},
              Box{"AboutHidingAndUnhiding",
                  "About Hiding and Unhiding",
-                 {"major weakness:  It makes", "try 'Group Rows (shortcut not set)' or 'Group Columns (shortcut not set)' "
-                                             "in this menu to get started.  Try 'Unhide Rows' (shortcut not set) to fix"}},
-             Box{"AboutTrainingMenu", "About the BR Tutorial Menu", {"using the 'Toggle Window Size' feature (shortcut"}},
+                 {"major weakness:  It makes",
+                  "try 'Group Rows (shortcut not set)' or 'Group Columns (shortcut not set)' "
+                  "in this menu to get started.  Try 'Unhide Rows' (shortcut not set) to fix"}},
+             Box{"AboutTrainingMenu",
+                 "About the BR Tutorial Menu",
+                 {"using the 'Toggle Window Size' feature (shortcut"}},
              Box{"ShowAboutBrannoch", "About Brannoch", {"Brannoch Kestrune 0."}},
          }) {
         run(box.member);
