@@ -410,10 +410,13 @@ class Refusing(CommandLineTest):
                 (1, "Kestrune/Redo: is greyed out", "Kestrune/Redo"),
                 (1, "My SmartCycle 15 is greyed out", "Kestrune/Format/My SmartCycles/My SmartCycle 15/1"),
                 (1, "opens no menu that could have 'x'", "Kestrune/Undo/x"),
+                (1, "no 'a b' on Kestrune", "Kestrune/a\nb"),
                 (2, "no way through the menus", ""),
                 (2, "no way through the menus", "Kestrune//Format/")):
             self.refused(status, needle, "run", self.book, "-o", out, "@A1", "20", "menu:" + way)
             self.assertFalse(out.exists(), way)
+        self.refused(1, "(toolbar) is hidden", "run", self.book, "menu:Kestrune/Show Toolbar",
+                     "menu:Kestrune (toolbar)/1")
         self.refused(1, "nearest: 'Kestrune'", "menu", self.book, "Kestrun")
 
     def test_changes_a_signed_workbook_only_when_told_to(self):

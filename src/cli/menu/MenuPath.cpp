@@ -20,12 +20,12 @@ MenuPath parse_menu_path(std::string_view text) {
             path.emplace_back();
         }
     }
-    for (std::string& part : path) part = automation::trimmed(part);
+    for (std::string& part : path) part = automation::one_line(part);
     if (std::ranges::find(path, "") != path.end()) {
         throw UsageError(
             fmt::format("{}: is no way through the menus; it has captions or numbers with '/' between, as in "
                         "Kestrune/Format/Currency/3",
-                        text.empty() ? "''" : text));
+                        text.empty() ? "''" : automation::one_line(text)));
     }
     return path;
 }

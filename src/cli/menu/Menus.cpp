@@ -113,6 +113,7 @@ Menus::Found Menus::find(const MenuPath& path) const {
         if (!found.path.empty()) {
             const std::string here = menu_path_text(found.path);
             if (!found.entry.opens) throw Failure(fmt::format("{} opens no menu that could have '{}'", here, part));
+            if (found.entry.hidden()) throw Failure(fmt::format("{} is hidden; Kestrune/Show Toolbar shows it", here));
             if (!found.entry.enabled()) throw Failure(fmt::format("{} is greyed out and does not open", here));
             entries = open(found.entry);
         }
