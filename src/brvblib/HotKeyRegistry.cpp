@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "brvblib/hotkeys/HotKeys.h"
+#include "brvblib/hotkeys/fHotKeyManager.h"
 #include "keys/ExcelKeys.h"
 #include "keys/KeyText.h"
 
@@ -123,25 +124,9 @@ bool HotKeyRegistry::run_key(const std::string& key) {
 }
 
 void HotKeyRegistry::show_manager() {
-    const ObjectRef callback = keys().first_callback();
-    if (!callback) return;
-    std::vector<std::pair<std::string, std::string>> lines;
-    for (const HotKeyRow& row : keys().rows()) {
-        if (row.key) lines.emplace_back(keys::key_text(*row.key), row.command.name);
-    }
-    // Two keys a row, since a box that shows an array has room for some thirty rows.
-    const std::size_t half = (lines.size() + 1) / 2;
-    lines.resize(2 * half);
-    Array shown({0, static_cast<std::int32_t>(half) + 1}, {0, 4});
-    auto place = shown.elements().begin();
-    for (const char* heading : {"Key", "Command", "Key", "Command"}) *place++ = heading;
-    for (std::size_t i = 0; i < half; ++i) {
-        for (const auto& [key, name] : {lines[i], lines[half + i]}) {
-            *place++ = key;
-            *place++ = name;
-        }
-    }
-    automation::call(*callback, "DisplayHotKeyArray", {shown});
+    if (keys().rows().empty()) return;
+    const std::string title = library_->clients.empty() ? std::string() : library_->clients.begin()->second.title;
+    fHotKeyManager(library_->services, keys(), title).Show(library_->services.presenter);
 }
 
 const MemberTable& HotKeyRegistry::members() {

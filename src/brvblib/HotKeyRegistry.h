@@ -73,7 +73,7 @@ class HotKeyRegistry : public automation::Served<HotKeyRegistry> {
 
     // Runs the command that has a key, by its client's callback; whether one ran.
     bool run_key(const std::string& key);
-    // Shows which command has which key, by the callback of the first client.
+    // Shows the commands of all clients in a dialog, in which the user gives them keys.
     void show_manager();
 
     [[nodiscard]] HotKeys& keys() const { return *library_->hot_keys; }

@@ -57,6 +57,11 @@ std::optional<std::string> ConsolePresenter::next_line() {
     return std::string(automation::trimmed(line));
 }
 
+bool ConsolePresenter::copy(const std::string& text) {
+    output_ << text << std::flush;
+    return output_.good();
+}
+
 std::optional<std::string> ConsolePresenter::choose_file(const FileDialog& dialog) {
     output_ << dialog.title << '\n';
     for (;;) {

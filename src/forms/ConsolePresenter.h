@@ -20,6 +20,8 @@ class ConsolePresenter : public Presenter {
     // A plain Enter takes the proposed name where there is one and cancels otherwise, as does the end of the input. A
     // file to open must be there; before one that is there is written over, it asks.
     std::optional<std::string> choose_file(const FileDialog& dialog) override;
+    // A terminal has no clipboard: the text is written.
+    bool copy(const std::string& text) override;
 
   private:
     [[nodiscard]] std::optional<std::string> next_line();

@@ -69,6 +69,7 @@ struct ControlDesign {
     std::span<const ListColumn> columns = {};      // of a list whose items have several texts, parted by tabs
     bool multi_line = false;                       // a text box of several lines, broken where they are too long
     bool locked = false;                           // a text box that is read, and not written in
+    bool takes_keys = false;                       // a text box that takes a key as it is pressed: "Ctrl+Shift+4"
     bool editable = false;                         // a combo box takes any text
     std::int32_t min = 0;                          // of spin buttons
     std::int32_t max = 100;

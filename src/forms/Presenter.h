@@ -45,6 +45,12 @@ class Presenter {
         return std::nullopt;
     }
 
+    // Puts a text on the clipboard; false where there is none.
+    virtual bool copy(const std::string& text) {
+        static_cast<void>(text);
+        return false;
+    }
+
     // Is told of every message box after it was answered, and of every form after it was closed, whichever presenter
     // showed it.
     void listen(Listener listener) { listener_ = std::move(listener); }

@@ -38,6 +38,12 @@ class ScriptedPresenter : public Presenter {
     // Every file dialog shown so far.
     [[nodiscard]] const std::vector<FileDialog>& file_dialogs() const { return file_dialogs_; }
 
+    bool copy(const std::string& text) override {
+        clipboard_ = text;
+        return true;
+    }
+    [[nodiscard]] const std::string& clipboard() const { return clipboard_; }
+
     // What a person would do with the next form that is not spoken for. When it is still shown afterwards, and for
     // every other form, the policy decides: its default button or its cancel button; a form that then stays is closed.
     using FormScript = std::function<void(Form& form)>;
@@ -60,6 +66,7 @@ class ScriptedPresenter : public Presenter {
     std::deque<std::optional<std::string>> files_;
     std::vector<FileDialog> file_dialogs_;
     std::deque<FormScript> scripts_;
+    std::string clipboard_;
     std::vector<std::string> forms_;
 };
 

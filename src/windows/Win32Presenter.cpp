@@ -5,6 +5,7 @@
 #include <commdlg.h>
 
 #include <array>
+#include <cstring>
 
 #include "windows/com/Unicode.h"
 #include "windows/forms/FormWindow.h"
@@ -56,6 +57,25 @@ forms::MsgBoxResult Win32Presenter::answer_to(const forms::Message& message) {
 }
 
 void Win32Presenter::work(forms::Form& form) { FormWindow(form, owner(), places_).run(); }
+
+bool Win32Presenter::copy(const std::string& text) {
+    const std::wstring wide = to_utf16(text);
+    const std::size_t bytes = (wide.size() + 1) * sizeof(wchar_t);
+    HGLOBAL memory = GlobalAlloc(GMEM_MOVEABLE, bytes);
+    if (!memory) return false;
+    if (void* place = GlobalLock(memory)) {
+        std::memcpy(place, wide.c_str(), bytes);
+        GlobalUnlock(memory);
+        if (OpenClipboard(owner())) {
+            // The clipboard has the memory from then on.
+            const bool taken = EmptyClipboard() && SetClipboardData(CF_UNICODETEXT, memory);
+            CloseClipboard();
+            if (taken) return true;
+        }
+    }
+    GlobalFree(memory);
+    return false;
+}
 
 std::optional<std::string> Win32Presenter::choose_file(const FileDialog& dialog) {
     constexpr std::size_t longest_path = 32768;

@@ -15,6 +15,7 @@ class Win32Presenter final : public forms::Presenter {
     explicit Win32Presenter(FormPlaces places = FormPlaces()) : places_(std::move(places)) {}
 
     [[nodiscard]] bool has_windows() const override { return true; }
+    bool copy(const std::string& text) override;
     std::optional<std::string> choose_file(const forms::FileDialog& dialog) override;
 
   private:

@@ -9,6 +9,8 @@
 #include "brvblib/Paths.h"
 #include "brvblib/SystemServices.h"
 #include "brvblib/TestFolder.h"
+#include "forms/Form.h"
+#include "forms/MsgBox.h"
 
 namespace kestrune::brvblib {
 namespace {
@@ -64,13 +66,11 @@ class FakeClient : public automation::Served<FakeClient> {
         static constexpr auto rows =
             automation::member_rows(automation::read_only<&C::product>("BRProductName", 1),
                                     automation::method<&C::append>("AddDefaultMacroArray", 2, "MacroArray"),
-                                    automation::method<&C::display>("DisplayHotKeyArray", 3, "HotKeys"),
                                     automation::method<&C::run>("RunMacro", 4, "Number"));
         static constexpr automation::MemberTable table("FakeClient", rows);
         return table;
     }
     std::vector<std::int32_t> ran;
-    std::size_t shown = 0;                   // rows of the array that was shown
     std::function<void(Value&)> spoil = {};  // what a faulty client does to the array
 
   private:
@@ -88,7 +88,6 @@ class FakeClient : public automation::Served<FakeClient> {
         array = std::move(longer);
         if (spoil) spoil(array);
     }
-    void display(const Value& array) { shown = static_cast<std::size_t>(array.array()->bound(0).count); }
     bool run(std::int32_t number) {
         ran.push_back(number);
         return true;
@@ -176,9 +175,62 @@ TEST_F(HotKeysTest, TheFirstClientKeepsAKeyAndTheOtherIsTold) {
     EXPECT_EQ(answer_of("RunKey", {"Ctrl+Shift+E"}), "True");
     EXPECT_THAT(second->ran, ElementsAre(1));
     EXPECT_THAT(first->ran, IsEmpty());
-    call(*registry(), "ShowManager");
-    EXPECT_EQ(first->shown, 1 + 2U) << "a heading, and two keys a row";
     EXPECT_EQ(answer_of("ExcelMeaning", {"Ctrl+$"}), "gives the currency format with two decimals");
+}
+
+// In the dialog, on a copy: what a key does is told before it is given away, and nothing is so until OK or Apply.
+TEST_F(HotKeysTest, TheManagerGivesKeysToCommands) {
+    add("One", first);
+    add("Two", second);
+    bind();
+    const auto at_first = table();
+    const auto choose = [](forms::Form& form, const char* sought) {
+        form.type(form["txtSearch"], sought);
+        EXPECT_EQ(form["lstCommands"].List().size(), 1U) << sought;
+    };
+    const auto press = [](forms::Form& form, const char* key) {
+        form.type(form["txtKey"], key);
+        return form["lblMeaning"].Caption();
+    };
+    presenter.answer_next(forms::vbNo);
+    presenter.answer_next(forms::vbYes);
+    presenter.work_next([&](forms::Form& form) {
+        EXPECT_EQ(form["lstCommands"].List().size(), 7U);
+        choose(form, "ctrl+shift+e");
+        EXPECT_EQ(press(form, "x"), "X: types a character; hold Ctrl or Alt with it.");
+        EXPECT_FALSE(form["btnAssign"].Enabled());
+        EXPECT_THAT(press(form, "ctrl-shift-4"),
+                    HasSubstr("Ctrl+Shift+4 is the key of Cycle (2).  In Excel it gives the currency format"));
+        form.click(form["btnAssign"]);  // asked, and declined
+        EXPECT_THAT(form["lstCommands"].List().front(), HasSubstr("Ctrl+Shift+E"));
+        form.click(form["btnAssign"]);
+        form.type(form["txtSearch"], "cycle first");
+        EXPECT_THAT(form["lstCommands"].List().front(), HasSubstr("cleared"));
+        choose(form, "alt+f7");
+        form.click(form["btnRemove"]);
+        EXPECT_EQ(table(), at_first) << "all of it is a copy's";
+        form.click(form["btnApply"]);
+        form.click(form["btnReset"]);
+        form.click(form["btnCancel"]);
+    });
+    call(*registry(), "ShowManager");
+    EXPECT_THAT(table(), ElementsAre("One.0 Ctrl+Shift+R default", "One.1  ", "One.2  cleared", "One.3  cleared",
+                                     "One.4  ", "Two.0  conflict with Late", "Two.1 Ctrl+Shift+4 chosen"));
+    EXPECT_FALSE(excel->bound.contains("%{F7}"));
+
+    // A new library object reads what was kept.
+    presenter.answer_next(forms::vbYes);
+    presenter.work_next([&](forms::Form& form) {
+        form.click(form["btnCopy"]);
+        EXPECT_THAT(presenter.clipboard(), HasSubstr("Ctrl+Shift+R\tGroup\t"));
+        form.click(form["btnResetAll"]);
+        form.click(form["ckbEnabled"]);
+        form.click(form["btnOK"]);
+        EXPECT_FALSE(form.Visible());
+    });
+    call(*registry(), "ShowManager");
+    EXPECT_EQ(table(), at_first);
+    EXPECT_THAT(excel->bound, IsEmpty()) << "switched off";
 }
 
 TEST_F(HotKeysTest, EveryBoundKeyIsGivenBackOnce) {

@@ -114,6 +114,21 @@ class Dialogs(unittest.TestCase):
         self.assertIn("       #2 > Calc!C4  Calc!$C$4", told.stderr)
         self.assertIn("Smart Precedents  (", told.stdout)
 
+    def test_the_hot_key_manager_gives_keys(self):
+        def key_of(number):
+            table = subprocess.run([KESTRUNE, "keys", "--json"], capture_output=True, text=True, timeout=120, check=True)
+            return next(row["key"] for row in json.loads(table.stdout)["keys"] if row["command"] == number)
+        chosen = ("--set", "fHotKeyManager.lstCommands=Currency SmartCycle", "--set", "fHotKeyManager.txtKey=ctrl-shift-u")
+        for answer, keys in (("cancel", "Ctrl+Shift+4"), ("no", "Ctrl+Shift+4"), ("yes", "Ctrl+Shift+U")):
+            self.run_tool(*chosen, "--answer", answer, "ShowHotKeyManager")
+            self.assertEqual(key_of("20"), keys, answer)
+        told = self.run_tool("--set", "fHotKeyManager.txtKey=x", "ShowHotKeyManager").stdout
+        self.assertIn("X: types a character; hold Ctrl or Alt with it", told)
+        terminal = self.run_tool("--answer", "ask", "ShowHotKeyManager", text_in="1=redo\ncopy\nprint\ncancel\n")
+        self.assertIn("Redo\tCtrl+Shift+Z\t", terminal.stderr)
+        page = next(self.folder.rglob("HotKeys.html")).read_text()
+        self.assertIn("<td>Ctrl+Shift+U</td><td>Currency SmartCycle</td>", page)
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -80,8 +80,6 @@ ObjectRef HotKeys::callback(std::string_view name) const {
     return nullptr;
 }
 
-ObjectRef HotKeys::first_callback() const { return clients_.empty() ? nullptr : clients_.front().callback; }
-
 void HotKeys::set_macros(const std::string& name, const std::string& workbook, const std::string& module) {
     Client* client = find(name);
     if (!client) refuse(fmt::format("{}: is not registered", name));
@@ -228,6 +226,28 @@ void HotKeys::reset_all() {
     reload();
     HotKeyChoices next;
     next.enabled = choices_.enabled;
+    keep(std::move(next));
+}
+
+void HotKeys::change(const HotKeyChoices& from, const HotKeyChoices& to) {
+    if (from == to) return;
+    reload();
+    HotKeyChoices next = choices_;
+    if (from.enabled != to.enabled) next.enabled = to.enabled;
+    for (const HotKeyChoice& choice : from.commands) {
+        if (const HotKeyChoice* now = to.find(choice.client, choice.command); !now || !(*now == choice))
+            next.forget(choice.client, choice.command);
+    }
+    for (const HotKeyChoice& choice : to.commands) {
+        const HotKeyChoice* before = from.find(choice.client, choice.command);
+        if (before && *before == choice) continue;
+        next.forget(choice.client, choice.command);
+        next.commands.push_back(choice);
+    }
+    for (const keys::Key& key : from.swallowed)
+        if (!to.swallows(key)) std::erase(next.swallowed, key);
+    for (const keys::Key& key : to.swallowed)
+        if (!from.swallows(key) && !next.swallows(key)) next.swallowed.push_back(key);
     keep(std::move(next));
 }
 

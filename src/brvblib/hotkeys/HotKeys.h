@@ -26,8 +26,6 @@ class HotKeys {
     // Whether there was one. Its keys go back to Excel.
     bool remove_client(std::string_view name);
     [[nodiscard]] automation::ObjectRef callback(std::string_view name) const;
-    // The call-back of the client registered first; null when there is none.
-    [[nodiscard]] automation::ObjectRef first_callback() const;
     // Where Excel finds the macros of a client's commands: the name of an open workbook and a module in it, whose
     // RunMacro takes a command's number. A client without them has keys that Excel does not run.
     void set_macros(const std::string& client, const std::string& workbook, const std::string& module);
@@ -54,6 +52,9 @@ class HotKeys {
     void reset_key(std::string_view command, std::string_view client);
     void reset_all();  // keys, and what is swallowed; on or off stays
     void swallow(const std::string& key);
+    // Makes what is different between two states of the choices different in those that are kept, which may have
+    // changed besides.
+    void change(const HotKeyChoices& from, const HotKeyChoices& to);
     void unswallow(const std::string& key);
 
     // The key that a text names; fails for texts and keys that are no hot keys.

@@ -9,6 +9,7 @@
 #include "windows/com/Unicode.h"
 #include "windows/forms/FormWindow.h"
 #include "windows/forms/NativeControl.h"
+#include "windows/forms/PressedKey.h"
 
 namespace kestrune::windows {
 namespace {
@@ -245,6 +246,7 @@ LRESULT FormWindow::notify(const NMHDR& header) {
 bool FormWindow::key(const MSG& message) {
     if (message.hwnd != window_ && !IsChild(window_, message.hwnd)) return false;
     try {
+        if (takes_key(message)) return true;
         if (message.message == WM_KEYDOWN) return key_down(message.wParam);
         if (message.message == WM_SYSCHAR && message.wParam < 0x80) {
             return form_.press_access_key(static_cast<char>(message.wParam));
@@ -255,6 +257,20 @@ bool FormWindow::key(const MSG& message) {
         return true;
     }
     return false;
+}
+
+// A box that takes keys leaves those to the form that a person needs to leave it.
+bool FormWindow::takes_key(const MSG& message) {
+    Control* active = form_.ActiveControl();
+    if (!active || !active->design().takes_keys || native(*active) != message.hwnd) return false;
+    if (message.message == WM_CHAR || message.message == WM_SYSCHAR) return message.wParam != VK_TAB;
+    if (message.message != WM_KEYDOWN && message.message != WM_SYSKEYDOWN) return false;
+    const bool held = down(VK_CONTROL) || down(VK_MENU);
+    if (!held && (message.wParam == VK_TAB || message.wParam == VK_RETURN || message.wParam == VK_ESCAPE)) return false;
+    const bool erases = message.wParam == VK_DELETE || message.wParam == VK_BACK;
+    if (const auto text = pressed_key_text(message.wParam))
+        form_.type(*active, erases && !held ? std::string() : *text);
+    return true;
 }
 
 bool FormWindow::key_down(WPARAM key) {

@@ -44,6 +44,7 @@ class FormWindow final : public forms::FormView {
     void take(forms::Control& control, int code);
     LRESULT notify(const NMHDR& header);
     bool key(const MSG& message);
+    bool takes_key(const MSG& message);
     bool key_down(WPARAM key);
 
     void create_controls();
