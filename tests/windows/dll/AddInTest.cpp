@@ -8,7 +8,9 @@
 #include "automation/Conversion.h"
 #include "automation/Text.h"
 #include "excel/Application.h"
+#include "excel/CommandBarPopup.h"
 #include "host/objects/HostSession.h"
+#include "host/objects/bars/CommandBars.h"
 #include "host_objects/FakeStore.h"
 #include "windows/com/ClassFactory.h"
 #include "windows/com/ComClasses.h"
@@ -175,6 +177,64 @@ TEST_F(AddInInOwnHost, RunsEveryCommand) {
         }
     }
     EXPECT_GT(watcher.stop().size(), 0U) << "some ask, or say what they did";
+    application = nullptr;
+    expect_released();
+}
+
+TEST_F(AddInInOwnHost, PutsCommandsOnMenusThatClicksRun) {
+    ObjectRef application = host::make_application(*session);
+    start(application);
+    {
+        const excel::Application excel(application);
+        for (const char* macro : {"UpdateMenuPopup", "UpdateTogglesPopup", "UpdateCurrencyStyleTogglePopup",
+                                  "UpdateMyColorToggle1Popup", "RunMacro"}) {
+            session->macros.add({}, std::string("mDOM.") + macro, [this, excel, macro](auto) {
+                const bool command = macro == std::string_view("RunMacro");
+                return command ? run(excel.CommandBars().ActionControl().Parameter()) : call(*global, macro);
+            });
+        }
+        call(*global, "CreateBRMenus");
+        const auto click = [&](std::initializer_list<Value> path) {
+            excel::CommandBarControls here = excel.CommandBars().Item("Worksheet Menu Bar").Controls();
+            excel::CommandBarControl control;
+            for (const Value& step : path) {
+                control = here.Item(step);
+                control.Execute();
+                if (control.Type() == host::msoControlPopup) here = excel::CommandBarPopup(control.object()).Controls();
+            }
+            return control;
+        };
+        excel.ActiveWorkbook().Worksheets().Item(1).Range("B2:C3").Select();
+        click({"Kestrune", "Format", "Currency", 3});
+        EXPECT_EQ(excel.ActiveCell().NumberFormat(), Value("[$$-409]#,##0.00_);([$$-409]#,##0.00)"));
+        // A color's face is a bitmap of Windows, PICTYPE 1.
+        const auto color = click({"Kestrune", "Format", "My Color SmartCycles", 1, 1});
+        EXPECT_EQ(get(*to_object(get(*color.object(), "Picture")), "Type"), Value(1));
+        call(*global, "DeleteBRMenus");
+        EXPECT_FALSE(excel.CommandBars().FindControl("Kestrune.Menu.20"));
+        session->macros = {};
+    }
+    application = nullptr;
+    session->command_bars.reset();
+    expect_released();
+}
+
+TEST_F(AddInInOwnHost, SaysWhatItIsInBoxes) {
+    ObjectRef application = host::make_application(*session);
+    start(application);
+    for (const auto& [member, title] : std::initializer_list<std::pair<const char*, const char*>>{
+             {"AboutSmartCycles", "About SmartCycles"},
+             {"AboutBRPaintbrush", "About BR Paintbrush"},
+             {"AboutHidingAndUnhiding", "About Hiding and Unhiding"},
+             {"AboutTrainingMenu", "About the BR Tutorial Menu"},
+             {"ShowAboutBrannoch", "About Brannoch"}}) {
+        BoxWatcher watcher(dll_path(member).replace_extension(".bmp"));
+        call(*global, member);
+        const std::vector<SeenBox> seen = watcher.stop();
+        ASSERT_EQ(seen.size(), 1U) << member;
+        EXPECT_EQ(seen.front().title, std::string("Brannoch Kestrune -- ") + title);
+        EXPECT_EQ(seen.front().icon, "information");
+    }
     application = nullptr;
     expect_released();
 }
