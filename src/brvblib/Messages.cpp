@@ -56,8 +56,26 @@ constexpr auto messages = std::to_array<Message>({
     {3133, "Restoring the defaults will replace all of your current settings, including your styles, SmartCycles and colors.  Would you like to proceed?"},
     {3134, "The default settings have been restored."},
     {3135, "Your user preferences could not be exported.  Please choose another folder or file name and try again."},
+    // The settings dialog
+    {3136, "Your settings could not be saved.  Nothing is lost: what you changed is still in the dialog, and the file is what it was.  Please try again, or export your settings to another file.  "},
+    {3137, "Please enter a zoom interval from 1 to 390 per cent."},
+    {3138, "Please enter a color by its name, such as Blue, or as #RRGGBB, such as #0000FF.  This is no color: "},
+    {3139, "Please enter a name for the SmartCycle."},
+    {3140, "There is another SmartCycle of this name already: "},
+    {3141, "The SmartCycle contains this style already: "},
+    {3142, "The SmartCycle contains this value already: "},
+    {3143, "Please enter an indent as a whole number from 0 to 15."},
+    {3144, "Please enter a row height from 0 to 409.5 points."},
+    {3145, "Please enter a column width from 0 to 255 characters."},
     // Tutorial
     {3150, "The lesson workbook could not be opened.  Please check that the lesson files are installed in the lessons folder, or contact technical support."},
+    // Styles in the settings dialog
+    {3160, "Please enter a name for the style."},
+    {3161, "There is another style of this name already: "},
+    {3162, "Names that begin with \"BR Standard\" are those of the styles that come with Kestrune.  Please enter another name than "},
+    {3163, "The standard styles that come with Kestrune cannot be changed.  Please duplicate the style, and change the copy: "},
+    {3164, "The style cannot be removed, since it is in use as "},
+    {3165, "The style will also be removed from these SmartCycles: "},
 });
 // clang-format on
 

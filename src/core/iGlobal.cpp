@@ -14,6 +14,8 @@
 #include "menus/mMenus.h"
 #include "settings/AutoColorCommands.h"
 #include "settings/cUserSettings.h"
+#include "settings/dialog/fUserSettings.h"
+#include "smart/ToolOptions.h"
 #include "styles/commands/StyleCycleCommands.h"
 
 namespace kestrune::core {
@@ -110,6 +112,13 @@ void iGlobal::show_hot_key_manager() const {
     menus::refresh_menus(*shared);
 }
 
+void iGlobal::show_user_settings() const {
+    const auto shared = shared_;
+    settings::ShowUserSettings(*shared, smart::tools_with_options());
+    // The tutorial menu comes and goes with a setting, and popups are called after their SmartCycles.
+    menus::refresh_menus(*shared);
+}
+
 void iGlobal::show_help() const {
     const auto shared = shared_;
     const automation::ResumeNext attempt(shared->trace);
@@ -147,6 +156,7 @@ const MemberTable& iGlobal::members() {
         automation::method<&iGlobal::act<menus::ToggleToolbar>>("ToggleToolbar", id("ToggleToolbar")),
         automation::method<&iGlobal::show_examples_workbook>("ShowExamplesWorkbook", id("ShowExamplesWorkbook")),
         automation::method<&iGlobal::show_hot_key_manager>("ShowHotKeyManager", id("ShowHotKeyManager")),
+        automation::method<&iGlobal::show_user_settings>("ShowUserSettings", id("ShowUserSettings")),
         automation::method<&iGlobal::act<menus::ShowAboutBrannoch>>("ShowAboutBrannoch", id("ShowAboutBrannoch")),
         automation::method<&iGlobal::show_help>("ShowHelp", id("ShowHelp")),
         automation::method<&iGlobal::run_macro>("RunMacro", id("RunMacro"), "Request"),

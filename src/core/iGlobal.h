@@ -24,6 +24,8 @@ class iGlobal : public automation::Served<iGlobal> {
     void show_examples_workbook() const;
     // Shows which command has which key.
     void show_hot_key_manager() const;
+    // Shows the settings dialog.
+    void show_user_settings() const;
     // Opens the product's help; a help that cannot be opened is told to the user.
     void show_help() const;
     // The folder of the lesson workbooks, a separator at its end.

@@ -65,8 +65,9 @@ std::string enter_number(Form& form, Control& control, std::string_view value) {
 }  // namespace
 
 std::string enter_value(Form& form, Control& control, std::string_view value) {
-    if (control.Value().is(automation::Value::Kind::Empty)) return "the control has no value";
-    if (!control.usable()) return "the control is disabled";
+    if (!control.is(Kind::Push) && control.Value().is(automation::Value::Kind::Empty))
+        return "the control has no value";
+    if (!control.usable()) return control.shown() ? "the control is disabled" : "the control cannot be seen now";
     if (control.design().locked) return "the text can only be read";
     switch (control.kind()) {
         case Kind::Option:
@@ -78,6 +79,10 @@ std::string enter_value(Form& form, Control& control, std::string_view value) {
             form.click(control);
             return control.Checked() == *wanted ? "" : "the form does not allow it";
         }
+        case Kind::Push:
+            if (!same_text(value, "click")) return "a button takes nothing but 'click'";
+            form.click(control);
+            return {};
         case Kind::Spin:
             return enter_number(form, control, value);
         case Kind::Combo:

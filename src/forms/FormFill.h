@@ -24,7 +24,7 @@ class FormFillError : public std::runtime_error {
 
 // Has a control take a value written as text, as a person at the form would: True or False for option buttons and check
 // boxes, the text of a box, an item or the beginning of one for lists and page tabs ("#3" for the third), the number of
-// a spin button. Empty, or why it does not take it; then it is as it was.
+// a spin button, "click" for a push button. Empty, or why it does not take it; then it is as it was.
 [[nodiscard]] std::string enter_value(Form& form, Control& control, std::string_view value);
 
 // FormFillError for what the form does not take.

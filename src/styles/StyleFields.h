@@ -20,6 +20,9 @@ inline constexpr std::int32_t text = 5;
 // A fill of this colour is no fill at all.
 inline constexpr std::int32_t no_fill = 0xFFFFFF;
 
+// The access level of the shipped standard styles, which are not free to edit.
+inline constexpr std::int32_t protected_style = 2;
+
 // What a style consists of. Colours are BGR, colour indices count the workbook's palette of 56 from 1.
 // Excel maps every requested colour onto that palette, so each As... field keeps what a cell really got
 // the last time the style was applied; only that can be recognised again.
@@ -72,7 +75,7 @@ struct StyleFields {
     bool bTransBorders = false;
 
     std::int32_t Category = category::none;
-    std::int32_t AccessLevel = 0;  // 0 free to edit, 2 a shipped standard style
+    std::int32_t AccessLevel = 0;  // 0 free to edit, or protected_style
     std::string Comments;
 
     bool operator==(const StyleFields&) const = default;

@@ -38,6 +38,12 @@ void cStyles::Remove(std::int32_t position) {
     entries_.erase(at(position));
 }
 
+void cStyles::follow_name(const cStyle& style) {
+    const std::int32_t position = position_of(style);
+    const StyleRef other = Item(style.FriendlyName);
+    if (position > 0 && (!other || other.get() == &style)) at(position)->key = style.FriendlyName;
+}
+
 StyleRef cStyles::Item(std::int32_t position) const {
     return holds(position) ? entries_[static_cast<std::size_t>(position - 1)].style : nullptr;
 }
@@ -55,7 +61,7 @@ void cStyles::Clear() {
 
 void cStyles::SetAccessLevels() {
     for (const Entry& entry : entries_) {
-        entry.style->AccessLevel = entry.style->FriendlyName.starts_with("BR Standard") ? 2 : 0;
+        entry.style->AccessLevel = entry.style->FriendlyName.starts_with("BR Standard") ? protected_style : 0;
     }
 }
 

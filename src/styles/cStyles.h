@@ -29,6 +29,9 @@ class cStyles {
 
     void Remove(std::int32_t position);
 
+    // Takes a style's present name for its key where it stands in the list; nothing happens where another has the key.
+    void follow_name(const cStyle& style);
+
     // Null when there is no such position or key.
     [[nodiscard]] StyleRef Item(std::int32_t position) const;
     [[nodiscard]] StyleRef Item(std::string_view key) const;

@@ -4,14 +4,13 @@
 #include <fmt/ranges.h>
 
 #include <algorithm>
-#include <charconv>
-#include <optional>
 
 #include "automation/Conversion.h"
 #include "automation/Text.h"
 #include "cli/Failure.h"
 #include "settings/Fields.h"
 #include "smart/copy/Condition.h"
+#include "styles/ColorText.h"
 
 namespace kestrune::cli {
 namespace {
@@ -20,20 +19,11 @@ using automation::same_text;
 using automation::Value;
 using settings::Sense;
 
-// The BGR colour that "#RRGGBB" means.
-std::optional<std::int32_t> color_of(std::string_view text) {
-    if (text.size() != 7 || text.front() != '#') return std::nullopt;
-    std::int32_t rgb = 0;
-    const auto [end, failure] = std::from_chars(text.data() + 1, text.data() + text.size(), rgb, 16);
-    if (failure != std::errc{} || end != text.data() + text.size() || rgb < 0) return std::nullopt;
-    return (rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16;
-}
-
 // The value that a person typed, checked for what files need not be checked for.
 template <class Record>
 Value checked(const settings::Field<Record>& field, const std::string& text, const styles::cStyles& library) {
     if (field.sense == Sense::color) {
-        if (const auto color = color_of(text)) return *color;
+        if (const auto color = styles::color_meant(text)) return *color;
     }
     if (field.sense == Sense::style_name && !library.Item(text)) {
         throw UsageError(fmt::format("there is no style '{}'", text));
@@ -55,7 +45,8 @@ bool set_field(Record& record, std::string_view name, const std::string& text, c
         settings::take(field, record, checked(field, text, library), library);
         const auto* whole = std::get_if<std::int32_t Record::*>(&field.member);
         // Files round; a person who types a fraction means it.
-        if (whole && text.front() != '#' && automation::to_double(text) != record.**whole) {
+        const bool is_named = field.sense == Sense::color && styles::color_meant(text);
+        if (whole && !is_named && automation::to_double(text) != record.**whole) {
             throw UsageError(fmt::format("'{}' is no whole number", text));
         }
         return true;

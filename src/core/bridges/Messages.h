@@ -36,7 +36,23 @@ enum class Text : std::int32_t {
     RestoreQuestion = 3133,
     Restored = 3134,
     ExportFailed = 3135,
+    SettingsNotSaved = 3136,  // the reason follows, as the name or value follows in those below
+    ZoomOutOfRange = 3137,
+    NoColor = 3138,
+    CycleNameMissing = 3139,
+    CycleNameTaken = 3140,
+    StyleIsInCycle = 3141,
+    ValueIsInCycle = 3142,
+    NoIndent = 3143,
+    NoRowHeight = 3144,
+    NoColumnWidth = 3145,
     LessonNotOpened = 3150,
+    StyleNameMissing = 3160,
+    StyleNameTaken = 3161,
+    StyleNameIsStandard = 3162,
+    StyleIsStandard = 3163,
+    StyleIsNeeded = 3164,
+    StyleIsInCycles = 3165,
 };
 
 }  // namespace kestrune::core

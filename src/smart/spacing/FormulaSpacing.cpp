@@ -177,8 +177,7 @@ void SmartFormulaRowSpacing(core::SharedState& shared, std::int32_t) {
     const ResumeNext attempt(shared.trace);
     attempt([&] {
         settings::SmartFmlaRowSpacingOptions& kept = shared.settings().SmartFmlaRowSpacing;
-        run(shared, true, {"rows", "Row adjustment", "Smart Formula Row Spacing"},
-            {kept.FmlaRows, kept.ReferenceRows, kept.Show});
+        run(shared, true, row_spacing_words, {kept.FmlaRows, kept.ReferenceRows, kept.Show});
     });
 }
 
@@ -186,8 +185,7 @@ void SmartFormulaColumnSpacing(core::SharedState& shared, std::int32_t) {
     const ResumeNext attempt(shared.trace);
     attempt([&] {
         settings::SmartFmlaColSpacingOptions& kept = shared.settings().SmartFmlaColSpacing;
-        run(shared, false, {"columns", "Column adjustment", "Smart Formula Column Spacing"},
-            {kept.FmlaCols, kept.ReferenceCols, kept.Show});
+        run(shared, false, column_spacing_words, {kept.FmlaCols, kept.ReferenceCols, kept.Show});
     });
 }
 

@@ -15,6 +15,9 @@ struct SpacingWords {
     std::string_view title;       // "Smart Formula Row Spacing"
 };
 
+inline constexpr SpacingWords row_spacing_words{"rows", "Row adjustment", "Smart Formula Row Spacing"};
+inline constexpr SpacingWords column_spacing_words{"columns", "Column adjustment", "Smart Formula Column Spacing"};
+
 // What the settings hold of it: so many cells go with one step of what they refer to, which covers so many lines.
 struct SpacingOptions {
     std::int32_t& group_size;

@@ -47,7 +47,7 @@ bool acts(Kind kind, int code) {
             return code == BN_CLICKED;
         case Kind::Label:
         case Kind::Image:
-            return code == STN_CLICKED;
+            return code == STN_CLICKED || code == STN_DBLCLK;
         case Kind::Text:
             return code == EN_CHANGE;
         case Kind::Combo:
@@ -184,6 +184,13 @@ void FormWindow::take(Control& control, int code) {
                 form_.choose(control, place(LB_GETCURSEL));
             }
             break;
+        case Kind::Label:
+        case Kind::Image:
+            if (code == STN_DBLCLK) {
+                form_.double_click(control);
+                break;
+            }
+            [[fallthrough]];
         default:
             form_.click(control);
             break;
