@@ -246,8 +246,9 @@ TEST(FilledForms, TakeValuesAsAPersonWouldGiveThem) {
         {"spnRows", "7", ""},
         {"spnRows", "10", "is no whole number from 0 to 9"},
         {"mpaMore", "Expert", ""},
-        {"ckbLocked", "True", "the control is disabled"},
-        {"btnOK", "True", "the control has no value"},
+        {"ckbLocked", "True", "the control cannot be seen now"},
+        {"btnOK", "True", "a button takes nothing but 'click'"},
+        {"btnOK", "click", ""},
         {"ckbCold", "True", "the dialog has no such control"},
     };
     for (const auto& one : cases) {
