@@ -67,6 +67,7 @@ TEST_F(EveryCommand, LeavesExcelAsItFoundIt) {
     // Those whose purpose it is to select something, or to move what is selected.
     const std::set<std::int32_t> selecting{7, 8, 10, 11, 13, 14, 63, 64, 65, 66, 91, 92};
     for (const Command& command : commands()) {
+        ASSERT_TRUE(command.body != nullptr) << command.number;
         const std::string request = std::to_string(command.number);
         for (const auto& [situation, prepare] : situations) {
             SCOPED_TRACE(request + " with " + situation);
