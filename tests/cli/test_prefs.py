@@ -123,7 +123,7 @@ class Running(PrefsTest):
         self.assertEqual(classes()[2], ("formula", 0), "the user's own file counts")
         prefs.write_text("<Kestrune")
         self.assertIn(str(prefs), self.refused("show", path, "--classes", "--prefs", prefs))
-        self.refused("show", path, "--classes", "--set", "InputColor=blue", status=2)
+        self.refused("show", path, "--classes", "--set", "InputColor=bluish", status=2)
         self.refused("show", path, "--prefs", prefs, status=2)
 
     def test_an_unreadable_file_of_the_user_is_kept_and_replaced(self):
