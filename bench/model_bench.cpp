@@ -3,7 +3,7 @@
 #include "formula/A1.h"
 #include "formula/Shift.h"
 #include "host/model/Workbook.h"
-#include "host/number_format/NumberFormat.h"
+#include "number_format/NumberFormat.h"
 
 namespace kestrune {
 namespace {
@@ -69,7 +69,7 @@ void shift_a_formula(benchmark::State& state) {
 BENCHMARK(shift_a_formula);
 
 void show_a_number(benchmark::State& state) {
-    const host::NumberFormat format("[$$-409]#,##0.00_);([$$-409]#,##0.00)");
+    const number_format::NumberFormat format("[$$-409]#,##0.00_);([$$-409]#,##0.00)");
     for (auto _ : state) benchmark::DoNotOptimize(format.render(-1234567.891));
 }
 BENCHMARK(show_a_number);

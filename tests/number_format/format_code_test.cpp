@@ -3,12 +3,12 @@
 #include <random>
 #include <string>
 
-#include "host/number_format/BuiltInFormats.h"
-#include "host/number_format/Calendar.h"
-#include "host/number_format/FormatSpelling.h"
-#include "host/number_format/NumberFormat.h"
+#include "number_format/BuiltInFormats.h"
+#include "number_format/Calendar.h"
+#include "number_format/FormatSpelling.h"
+#include "number_format/NumberFormat.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 TEST(FormatCode, IsTakenOrRefusedAsExcelDoes) {
@@ -138,4 +138,4 @@ TEST(Calendar, GoesBothWays) {
 }
 
 }  // namespace
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

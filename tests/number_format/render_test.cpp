@@ -5,10 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "host/number_format/GeneralText.h"
-#include "host/number_format/NumberFormat.h"
+#include "number_format/GeneralText.h"
+#include "number_format/NumberFormat.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 struct Case {
@@ -275,4 +275,4 @@ TEST(Dates, ShowTheirParts) {
 }
 
 }  // namespace
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

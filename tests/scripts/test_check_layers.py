@@ -37,7 +37,7 @@ class CheckLayers(unittest.TestCase):
             ("menus", "automation"),
             ("core", "menus"),
             ("core", "core/bridges"),
-            ("host/model", "host/number_format"),
+            ("host/model", "number_format"),
             ("host/objects", "host/model"),
             ("host/xlsx", "formula"),
             ("cli", "host/objects"),
@@ -61,7 +61,7 @@ class CheckLayers(unittest.TestCase):
             ("host/xlsx", "host/objects"),
             ("host/xlsx", "automation"),
             ("host/objects", "excel"),
-            ("host/number_format", "formula"),
+            ("number_format", "formula"),
             ("windows", "cli"),
         ]
         for source, target in allowed:

@@ -11,8 +11,8 @@
 #include "cli/diff/Rectangles.h"
 #include "formula/A1.h"
 #include "formula/SheetName.h"
-#include "host/number_format/GeneralText.h"
 #include "host/objects/ErrorValues.h"
+#include "number_format/GeneralText.h"
 
 namespace kestrune::cli {
 namespace {
@@ -25,7 +25,7 @@ std::string text_of(const host::CellContent& content) {
         case host::CellKind::Blank:
             return "";
         case host::CellKind::Number:
-            return host::full_number_text(content.number);
+            return number_format::full_number_text(content.number);
         case host::CellKind::Boolean:
             return content.boolean ? "TRUE" : "FALSE";
         case host::CellKind::Error:

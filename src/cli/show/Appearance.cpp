@@ -24,7 +24,7 @@ host::Horizontal shown_alignment(host::Horizontal horizontal, host::CellKind kin
 
 }  // namespace
 
-const host::NumberFormat& SheetAppearance::format_of(host::StyleId style) {
+const number_format::NumberFormat& SheetAppearance::format_of(host::StyleId style) {
     const std::uint32_t number = workbook_.styles.formats[style].number_format;
     const auto known = formats_.find(number);
     if (known != formats_.end()) return known->second;
@@ -34,8 +34,8 @@ const host::NumberFormat& SheetAppearance::format_of(host::StyleId style) {
 void SheetAppearance::write_text(Appearance& look, formula::Position position, host::StyleId style) {
     const host::CellContent content = sheet_.content_at(position);
     look.kind = content.kind;
-    const host::NumberFormat& format = format_of(style);
-    host::Rendered shown;
+    const number_format::NumberFormat& format = format_of(style);
+    number_format::Rendered shown;
     switch (content.kind) {
         case host::CellKind::Blank: {
             // A formula of ours has no value yet; Excel works it out when it opens the file.
@@ -66,7 +66,8 @@ void SheetAppearance::write_text(Appearance& look, formula::Position position, h
     if (shown.colour) look.font_color = workbook_.palette[static_cast<std::size_t>(*shown.colour - 1)];
 }
 
-void SheetAppearance::fit_number(host::Rendered& shown, double value, formula::Position position, host::StyleId style) {
+void SheetAppearance::fit_number(number_format::Rendered& shown, double value, formula::Position position,
+                                 host::StyleId style) {
     const host::Alignment& alignment = workbook_.styles.formats[style].alignment;
     if (alignment.shrink || alignment.rotation != 0) return;
     const auto merged = sheet_.merge_at(position);

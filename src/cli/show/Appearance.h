@@ -8,7 +8,7 @@
 
 #include "host/model/ConditionalMatch.h"
 #include "host/model/Workbook.h"
-#include "host/number_format/NumberFormat.h"
+#include "number_format/NumberFormat.h"
 
 namespace kestrune::cli {
 
@@ -48,17 +48,17 @@ class SheetAppearance {
     [[nodiscard]] Appearance at(formula::Position position);
 
   private:
-    [[nodiscard]] const host::NumberFormat& format_of(host::StyleId style);
+    [[nodiscard]] const number_format::NumberFormat& format_of(host::StyleId style);
     void write_text(Appearance& look, formula::Position position, host::StyleId style);
     // A number that its column has no room for: rounded where the format leaves that open, else a row of #.
-    void fit_number(host::Rendered& shown, double value, formula::Position position, host::StyleId style);
+    void fit_number(number_format::Rendered& shown, double value, formula::Position position, host::StyleId style);
     void lay_fill(Appearance& look, const host::Fill& fill) const;
     void lay_conditional_formats(Appearance& look, formula::Position position);
 
     host::Sheet& sheet_;
     host::Workbook& workbook_;
     host::ConditionalMatcher conditions_;
-    std::unordered_map<std::uint32_t, host::NumberFormat> formats_;  // by number, each read once
+    std::unordered_map<std::uint32_t, number_format::NumberFormat> formats_;  // by number, each read once
 };
 
 }  // namespace kestrune::cli

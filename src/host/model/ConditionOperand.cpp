@@ -11,9 +11,12 @@
 #include "formula/Lexer.h"
 #include "formula/SheetName.h"
 #include "host/model/Workbook.h"
-#include "host/number_format/GeneralText.h"
+#include "number_format/GeneralText.h"
 
 namespace kestrune::host {
+
+using number_format::full_number_text;
+
 namespace {
 
 using formula::Token;

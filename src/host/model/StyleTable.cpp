@@ -4,9 +4,12 @@
 #include <utility>
 
 #include "formula/Characters.h"
-#include "host/number_format/BuiltInFormats.h"
+#include "number_format/BuiltInFormats.h"
 
 namespace kestrune::host {
+
+using number_format::built_in_format;
+using number_format::built_in_format_id;
 namespace {
 
 constexpr std::uint32_t first_custom_number = 164;

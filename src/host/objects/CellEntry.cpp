@@ -7,12 +7,14 @@
 #include "automation/Text.h"
 #include "formula/FormulaCheck.h"
 #include "formula/Lexer.h"
-#include "host/number_format/GeneralText.h"
 #include "host/objects/EnteredNumber.h"
 #include "host/objects/ErrorValues.h"
 #include "host/objects/Refusal.h"
+#include "number_format/GeneralText.h"
 
 namespace kestrune::host {
+
+using number_format::full_number_text;
 namespace {
 
 using automation::Value;

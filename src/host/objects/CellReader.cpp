@@ -1,11 +1,13 @@
 #include "host/objects/CellReader.h"
 
 #include "formula/Convert.h"
-#include "host/number_format/GeneralText.h"
 #include "host/objects/CellEntry.h"
 #include "host/objects/ErrorValues.h"
+#include "number_format/GeneralText.h"
 
 namespace kestrune::host {
+
+using number_format::full_number_text;
 namespace {
 
 // The last instant of December 31, 9999: later numbers are no dates.

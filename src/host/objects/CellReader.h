@@ -4,10 +4,12 @@
 #include <unordered_map>
 
 #include "automation/Value.h"
-#include "host/number_format/NumberFormat.h"
 #include "host/objects/CellRange.h"
+#include "number_format/NumberFormat.h"
 
 namespace kestrune::host {
+
+using number_format::NumberFormat;
 
 // Reads cells as the object model shows them: values, formulas and texts. Number formats are taken apart
 // once, however many cells have them.

@@ -6,12 +6,14 @@
 #include "formula/A1.h"
 #include "formula/FormulaCheck.h"
 #include "formula/Shift.h"
-#include "host/number_format/GeneralText.h"
 #include "host/objects/CellEntry.h"
 #include "host/objects/Constants.h"
 #include "host/objects/Refusal.h"
+#include "number_format/GeneralText.h"
 
 namespace kestrune::host {
+
+using number_format::full_number_text;
 namespace {
 
 using automation::Value;

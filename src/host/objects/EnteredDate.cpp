@@ -5,10 +5,12 @@
 #include <vector>
 
 #include "automation/Text.h"
-#include "host/number_format/Calendar.h"
 #include "host/objects/EnteredNumber.h"
+#include "number_format/Calendar.h"
 
 namespace kestrune::host {
+
+using number_format::serial_from_date;
 namespace {
 
 constexpr std::array<std::string_view, 12> months = {"january",   "february", "march",    "april",

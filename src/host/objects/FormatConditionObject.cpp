@@ -3,14 +3,16 @@
 #include <algorithm>
 
 #include "formula/Shift.h"
-#include "host/number_format/NumberFormat.h"
 #include "host/objects/ConditionBordersObject.h"
 #include "host/objects/ConditionFontObject.h"
 #include "host/objects/ConditionInteriorObject.h"
 #include "host/objects/Conditions.h"
 #include "host/objects/RangeObject.h"
+#include "number_format/NumberFormat.h"
 
 namespace kestrune::host {
+
+using number_format::is_valid_format;
 
 ObjectRef FormatConditionObject::applies_to() const {
     return std::make_shared<RangeObject>(CellRange(session(), rule_.sheet(), rule_.format().areas));

@@ -4,12 +4,14 @@
 #include "formula/FormulaCheck.h"
 #include "formula/Selection.h"
 #include "formula/SheetName.h"
-#include "host/number_format/GeneralText.h"
 #include "host/objects/DefinedNames.h"
 #include "host/objects/RangeObject.h"
 #include "host/objects/SheetObject.h"
+#include "number_format/GeneralText.h"
 
 namespace kestrune::host {
+
+using number_format::full_number_text;
 namespace {
 
 // A text constant as a formula spells it.

@@ -1,8 +1,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "host/number_format/BuiltInFormats.h"
-#include "host/number_format/NumberFormat.h"
 #include "host/objects/BordersObject.h"
 #include "host/objects/FontObject.h"
 #include "host/objects/FormatConditionsObject.h"
@@ -12,8 +10,13 @@
 #include "host/objects/Refusal.h"
 #include "host/objects/StyleObject.h"
 #include "host/objects/StylesObject.h"
+#include "number_format/BuiltInFormats.h"
+#include "number_format/NumberFormat.h"
 
 namespace kestrune::host {
+
+using number_format::built_in_format_id;
+using number_format::is_valid_format;
 namespace {
 
 constexpr std::pair<Horizontal, std::int32_t> horizontals[] = {

@@ -1,11 +1,13 @@
 #include <algorithm>
 
-#include "host/number_format/FormatSpelling.h"
 #include "host/xlsx/ColorXml.h"
 #include "host/xlsx/FormatNames.h"
 #include "host/xlsx/FormatXml.h"
+#include "number_format/FormatSpelling.h"
 
 namespace kestrune::host {
+
+using number_format::object_model_spelling;
 namespace {
 
 std::uint32_t number(const XmlElement& element, std::string_view name) {

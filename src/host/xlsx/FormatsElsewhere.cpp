@@ -3,10 +3,12 @@
 #include <charconv>
 #include <utility>
 
-#include "host/number_format/FormatSpelling.h"
 #include "host/xlsx/XmlParser.h"
+#include "number_format/FormatSpelling.h"
 
 namespace kestrune::host {
+
+using number_format::object_model_spelling;
 namespace {
 
 // Charts spell their formats out, in attributes and elements called formatCode; pivot tables name them by number.

@@ -1,12 +1,14 @@
 #include <algorithm>
 
-#include "host/number_format/FormatSpelling.h"
 #include "host/xlsx/ColorXml.h"
 #include "host/xlsx/FormatXml.h"
 #include "host/xlsx/StylesPart.h"
 #include "host/xlsx/XmlParser.h"
+#include "number_format/FormatSpelling.h"
 
 namespace kestrune::host {
+
+using number_format::object_model_spelling;
 namespace {
 
 // Calls read with every child of that name, and answers how many there were.

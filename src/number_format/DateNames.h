@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // Names of months and days in one language, January and Sunday first.
 struct DateNames {
@@ -17,4 +17,4 @@ struct DateNames {
 // The names that a format with this Windows language id ([$-407]) shows; English ones for languages without a table.
 [[nodiscard]] const DateNames& date_names(std::uint32_t language);
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -6,9 +6,9 @@
 #include <tuple>
 #include <utility>
 
-#include "host/number_format/SectionText.h"
+#include "number_format/SectionText.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 // The last convergent of the continued fraction whose denominator is small enough. Excel stops there, too, although a
@@ -129,4 +129,4 @@ void SectionText::append_fraction(double size) {
     }
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

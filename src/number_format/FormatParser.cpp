@@ -1,4 +1,4 @@
-#include "host/number_format/FormatParser.h"
+#include "number_format/FormatParser.h"
 
 #include <fmt/format.h>
 
@@ -6,9 +6,9 @@
 #include <charconv>
 #include <utility>
 
-#include "host/number_format/SectionLayout.h"
+#include "number_format/SectionLayout.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr std::size_t longest_code = 255;  // characters
@@ -321,4 +321,4 @@ class Reader {
 
 ParsedFormat parse_format(std::string_view code) { return Reader(code).read(); }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

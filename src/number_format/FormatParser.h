@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "host/number_format/FormatSection.h"
+#include "number_format/FormatSection.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // A format code taken apart, or why it is none.
 struct ParsedFormat {
@@ -17,4 +17,4 @@ struct ParsedFormat {
 // Reads a code in en-US spelling (ECMA-376, 18.8.31).
 [[nodiscard]] ParsedFormat parse_format(std::string_view code);
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -1,8 +1,8 @@
-#include "host/number_format/Calendar.h"
+#include "number_format/Calendar.h"
 
 #include <array>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr std::int64_t last_serial = 2'958'465;        // December 31, 9999 in the 1900 system
@@ -75,4 +75,4 @@ std::optional<std::int64_t> serial_from_date(const CalendarDate& date, bool date
     return serial;
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // A day as Excel shows it. In the 1900 system day 0 is "January 0, 1900" and February 29, 1900 exists.
 struct CalendarDate {
@@ -21,4 +21,4 @@ struct CalendarDate {
 // The serial number of a day; nothing for a day that the calendar does not have. The weekday is not looked at.
 [[nodiscard]] std::optional<std::int64_t> serial_from_date(const CalendarDate& date, bool date1904 = false);
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

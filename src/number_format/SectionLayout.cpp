@@ -1,10 +1,10 @@
-#include "host/number_format/SectionLayout.h"
+#include "number_format/SectionLayout.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cstddef>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 bool is_clock(Part part) {
@@ -297,4 +297,4 @@ std::string lay_out(FormatSection& section) {
     return fault;
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -1,13 +1,13 @@
-#include "host/number_format/GeneralText.h"
+#include "number_format/GeneralText.h"
 
 #include <fmt/format.h>
 
 #include <algorithm>
 #include <string_view>
 
-#include "host/number_format/Decimal.h"
+#include "number_format/Decimal.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 void append_trimmed(std::string& out, std::string_view fraction) {
@@ -81,4 +81,4 @@ std::string full_number_text(double value) {
     return number.negative() ? "-" + text : text;
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

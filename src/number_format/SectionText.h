@@ -3,11 +3,11 @@
 #include <string>
 #include <string_view>
 
-#include "host/number_format/Decimal.h"
-#include "host/number_format/FormatSection.h"
-#include "host/number_format/NumberFormat.h"
+#include "number_format/Decimal.h"
+#include "number_format/FormatSection.h"
+#include "number_format/NumberFormat.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // Writes one number through one section of a format.
 class SectionText {
@@ -54,4 +54,4 @@ class DigitRow {
     bool started_ = false;
 };
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

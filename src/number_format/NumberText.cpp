@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "host/number_format/GeneralText.h"
-#include "host/number_format/SectionText.h"
+#include "number_format/GeneralText.h"
+#include "number_format/SectionText.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 void DigitRow::append_separator(std::string& out, int behind, char sign) const {
     if (grouped_ && behind > 0 && behind % 3 == 0) out += sign;
@@ -153,4 +153,4 @@ void SectionText::append_scientific(Decimal number) {
     append_digits(mantissa.integer_digits(), mantissa.fraction_digits(section_.decimals), power);
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

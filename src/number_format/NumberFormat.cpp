@@ -1,13 +1,13 @@
-#include "host/number_format/NumberFormat.h"
+#include "number_format/NumberFormat.h"
 
 #include <algorithm>
 #include <cmath>
 
-#include "host/number_format/FormatParser.h"
-#include "host/number_format/GeneralText.h"
-#include "host/number_format/SectionText.h"
+#include "number_format/FormatParser.h"
+#include "number_format/GeneralText.h"
+#include "number_format/SectionText.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr int unknown_width = 8;
@@ -174,4 +174,4 @@ bool NumberFormat::is_date_or_time() const { return kind() == FormatKind::date |
 
 bool is_valid_format(std::string_view code) { return parse_format(code).error.empty(); }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

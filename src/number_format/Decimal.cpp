@@ -1,11 +1,11 @@
-#include "host/number_format/Decimal.h"
+#include "number_format/Decimal.h"
 
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr int max_digits = 15;
@@ -77,4 +77,4 @@ std::string Decimal::fraction_digits(int decimals) const {
     return digits;
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -1,6 +1,6 @@
-#include "host/number_format/DateNames.h"
+#include "number_format/DateNames.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr DateNames english{{"January", "February", "March", "April", "May", "June", "July", "August", "September",
@@ -67,4 +67,4 @@ const DateNames& date_names(std::uint32_t language) {
     }
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -5,11 +5,11 @@
 #include <cstdint>
 #include <iterator>
 
-#include "host/number_format/Calendar.h"
-#include "host/number_format/DateNames.h"
-#include "host/number_format/SectionText.h"
+#include "number_format/Calendar.h"
+#include "number_format/DateNames.h"
+#include "number_format/SectionText.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr std::int64_t seconds_a_day = 86'400;
@@ -163,4 +163,4 @@ bool SectionText::append_date(double value, bool date1904) {
     return true;
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -3,7 +3,7 @@
 #include <array>
 #include <string>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // A number as Excel sees it when it shows it: at most 15 decimal digits. It is 0.d1d2d3... times 10 to the power
 // `point`.
@@ -38,4 +38,4 @@ class Decimal {
     bool negative_ = false;
 };
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "host/number_format/FormatSection.h"
+#include "number_format/FormatSection.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // What a cell shows.
 struct Rendered {
@@ -64,4 +64,4 @@ class NumberFormat {
 // Whether Range.NumberFormat takes the code.
 [[nodiscard]] bool is_valid_format(std::string_view code);
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -1,10 +1,10 @@
-#include "host/number_format/FormatSpelling.h"
+#include "number_format/FormatSpelling.h"
 
 #include <algorithm>
 
-#include "host/number_format/FormatParser.h"
+#include "number_format/FormatParser.h"
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr std::string_view plain_signs = "()-+ ";
@@ -97,4 +97,4 @@ std::string file_spelling(std::string_view object_model_code) {
     return std::string(object_model_code);
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

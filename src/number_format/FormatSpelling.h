@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // Files protect plain signs in format codes ("$"#,##0_);\("$"#,##0\)); the object model shows the same code without
 // that
@@ -11,4 +11,4 @@ namespace kestrune::host {
 [[nodiscard]] std::string object_model_spelling(std::string_view file_code);
 [[nodiscard]] std::string file_spelling(std::string_view object_model_code);
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 enum class Part : std::uint8_t {
     literal,  // text as it stands; of a number format also what stands for "_x", one space
@@ -85,4 +85,4 @@ struct FormatSection {
     int second_decimals = 0;
 };
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

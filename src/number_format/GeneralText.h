@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 
 // How many characters, sign aside, General takes at most however wide the column is.
 inline constexpr int general_width = 11;
@@ -15,4 +15,4 @@ inline constexpr int general_width = 11;
 // A number with all its digits (up to 15), as the formula bar shows a constant: 1234567.89, 0.1, 1E+21.
 [[nodiscard]] std::string full_number_text(double value);
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format

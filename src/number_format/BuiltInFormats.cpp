@@ -1,9 +1,9 @@
-#include "host/number_format/BuiltInFormats.h"
+#include "number_format/BuiltInFormats.h"
 
 #include <array>
 #include <utility>
 
-namespace kestrune::host {
+namespace kestrune::number_format {
 namespace {
 
 constexpr std::array<std::pair<int, std::string_view>, 36> built_in{{
@@ -61,4 +61,4 @@ std::optional<int> built_in_format_id(std::string_view code) {
     return std::nullopt;
 }
 
-}  // namespace kestrune::host
+}  // namespace kestrune::number_format
