@@ -15,7 +15,7 @@ _kestrune() {
     fi
     if [[ $word == -* ]]; then
         case $command in
-            run) COMPREPLY=($(compgen -W "-o --output --in-place --force --prefs --set --answer --json --trace --help" -- "$word")) ;;
+            run) COMPREPLY=($(compgen -W "-o --output --in-place --force --prefs --set --answer --json --timing --trace --help" -- "$word")) ;;
             menu) COMPREPLY=($(compgen -W "--json --prefs --set --help" -- "$word")) ;;
             show) COMPREPLY=($(compgen -W "--html --color --classes --json --prefs --set --help" -- "$word")) ;;
             prefs)

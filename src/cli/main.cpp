@@ -61,6 +61,7 @@ void add_run(CLI::App& app, RunOptions& options) {
     command->add_option("--answer", options.answer, "Answer to every question: ok, cancel, yes, no, or ask")
         ->capture_default_str();
     command->add_flag("--json", options.json, "Report each step as JSON");
+    command->add_flag("--timing", options.timing, "Tell how long each step took");
     command->add_flag("--trace", options.trace, "Tell on standard error what commands skipped");
     add_settings(*command, options.prefs, options.settings);
     command->add_option("STEP", options.steps,

@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <nlohmann/json.hpp>
@@ -32,6 +33,26 @@ using nlohmann::ordered_json;
 struct ShownMessage {
     forms::Message message;
     forms::MsgBoxResult answer;
+};
+
+struct Cost {
+    std::int64_t calls;  // automation calls
+    double seconds;
+};
+
+// What something costs from here on.
+class Meter {
+  public:
+    explicit Meter(const host::HostSession& session) : session_(session), calls_(session.calls()) {}
+    [[nodiscard]] Cost read() const {
+        const std::chrono::duration<double> passed = std::chrono::steady_clock::now() - start_;
+        return {session_.calls() - calls_, passed.count()};
+    }
+
+  private:
+    const host::HostSession& session_;
+    std::int64_t calls_;
+    std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
 };
 
 std::string lower_case(std::string_view text) {
@@ -87,10 +108,13 @@ class Session {
         if (options_.output) check_output_name(book, options_.workbook, *options_.output);
         if (!steps_.empty()) {
             check_preferences();
+            const Meter meter(book.session());
             AddIn add_in(book.application(), book.macros(), *presenter_, trace_, &book.formats(), options_.prefs);
+            const Cost start = meter.read();
             for (const auto& [message, answer] : messages_) fmt::print(stderr, "{}\n", message_line(message, answer));
             apply_settings(add_in);
             ordered_json report = ordered_json::array();
+            if (options_.timing) tell_start(start, report);
             const std::int32_t looked_at = book.model().active_sheet;
             for (std::size_t i = 0; i < steps_.size(); ++i) {
                 ordered_json entry = run_step(book, add_in, steps_[i], options_.steps[i]);
@@ -157,7 +181,7 @@ class Session {
         refusals_.clear();
         const std::int32_t looked_at = book.model().active_sheet;
         const std::string selected = selection_text(book);
-        const std::int64_t before = book.session().calls();
+        const Meter meter(book.session());
         bool ran = true;
         std::string what;
         HistoryReport history;
@@ -185,7 +209,7 @@ class Session {
             what = fmt::format("{}: {}{}", menu->clicked, menu->runs, menu->ran ? "" : ": a command may not run now");
             ran = menu->ran;
         }
-        const std::int64_t calls = book.session().calls() - before;
+        const Cost cost = meter.read();
         if (std::holds_alternative<SelectStep>(step)) {
             what = fmt::format("selected {}", selection_text(book));
         } else if (!std::holds_alternative<HistoryStep>(step) && book.model().active_sheet != looked_at) {
@@ -196,7 +220,7 @@ class Session {
         if (gone_to == selected) gone_to.clear();
         tell_refusals(text);
         if (options_.json) {
-            ordered_json entry = describe(text, ran, calls);
+            ordered_json entry = describe(text, ran, cost);
             if (!gone_to.empty()) entry["selection"] = gone_to;
             entry.update(history.facts);
             if (key) entry.update({{"key", key->key}, {"did", key->did}});
@@ -204,7 +228,7 @@ class Session {
             return entry;
         }
         if (!gone_to.empty()) what += fmt::format(", to {}", gone_to);
-        tell(text, what, calls);
+        tell(text, what, cost);
         for (const std::string& line : history.lines) fmt::print("             {}\n", line);
         return {};
     }
@@ -222,15 +246,24 @@ class Session {
                    more == 0 ? "" : fmt::format(" (and {} more; --trace tells all)", more));
     }
 
-    void tell(const std::string& text, const std::string& what, std::int64_t calls) const {
-        fmt::print("{:<12} {}  ({} call{})\n", text, what, calls, calls == 1 ? "" : "s");
+    void tell_start(Cost cost, ordered_json& report) const {
+        if (options_.json) {
+            report.push_back(describe("start", true, cost));
+        } else {
+            tell("start", "the add-in", cost);
+        }
+    }
+
+    void tell(const std::string& text, const std::string& what, Cost cost) const {
+        const std::string seconds = options_.timing ? fmt::format(", {:.3f} s", cost.seconds) : "";
+        fmt::print("{:<12} {}  ({} call{}{})\n", text, what, cost.calls, cost.calls == 1 ? "" : "s", seconds);
         for (const std::string& line : form_lines_) fmt::print("             {}\n", line);
         for (const ShownMessage& shown : messages_) {
             fmt::print("             {}\n", message_line(shown.message, shown.answer));
         }
     }
 
-    [[nodiscard]] ordered_json describe(const std::string& text, bool ran, std::int64_t calls) const {
+    [[nodiscard]] ordered_json describe(const std::string& text, bool ran, Cost cost) const {
         ordered_json shown = ordered_json::array();
         for (const auto& [message, answer] : messages_) {
             shown.push_back({{"text", message.text},
@@ -238,7 +271,8 @@ class Session {
                              {"buttons", message.buttons},
                              {"answer", lower_case(forms::choice_name(answer))}});
         }
-        ordered_json entry = {{"step", text}, {"ran", ran}, {"messages", shown}, {"calls", calls}};
+        ordered_json entry = {{"step", text}, {"ran", ran}, {"messages", shown}, {"calls", cost.calls}};
+        if (options_.timing) entry["seconds"] = cost.seconds;
         if (!form_facts_.empty()) entry["forms"] = form_facts_;
         return entry;
     }

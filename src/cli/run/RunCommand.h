@@ -14,6 +14,7 @@ struct RunOptions {
     std::string answer = "ok";  // ok, cancel, yes, no, ask
     bool json = false;
     bool trace = false;
+    bool timing = false;                // tell how long each step took
     std::string prefs;                  // the file of the user settings; the user's own when empty
     std::vector<std::string> settings;  // "GROUP.FIELD=VALUE", for this run
     std::vector<std::string> steps;

@@ -343,13 +343,13 @@ class SheetPage {
 };
 
 std::string page(const std::string& title, const std::vector<std::pair<host::Sheet*, Area>>& sheets,
-                 const Classify& classify) {
+                 const Classify& classify, std::size_t opened = 0) {
     CssClasses css;
     std::string body, tabs, switches;
     for (std::size_t i = 0; i < sheets.size(); ++i) {
         const auto& [sheet, area] = sheets[i];
         fmt::format_to(std::back_inserter(body), "<input type=radio name=sheet id=t{0}{1}>\n<section>{2}</section>\n",
-                       i, i == 0 ? " checked" : "", SheetPage(*sheet, area, css, classify).table());
+                       i, i == opened ? " checked" : "", SheetPage(*sheet, area, css, classify).table());
         const std::string color = sheet->defaults().tab_color
                                       ? fmt::format(" style='border-bottom:3px solid {}'",
                                                     hex(sheet->workbook().rgb_of(*sheet->defaults().tab_color, 0)))
@@ -370,8 +370,11 @@ std::string page(const std::string& title, const std::vector<std::pair<host::She
 
 std::string html_page(host::Workbook& workbook, const Classify& classify) {
     std::vector<std::pair<host::Sheet*, Area>> sheets;
-    for (const auto& sheet : workbook.sheets()) {
+    std::size_t opened = 0;
+    for (std::int32_t position = 0; const auto& sheet : workbook.sheets()) {
+        const bool active = position++ == workbook.active_sheet;
         if (sheet->kind() != host::SheetKind::Worksheet || sheet->visibility != host::Visibility::Visible) continue;
+        if (active) opened = sheets.size();
         Area area = sheet->used_area();
         // A person sees the sheet from its first cell on, and some empty room around.
         area.first_row = area.first_column = 1;
@@ -379,7 +382,7 @@ std::string html_page(host::Workbook& workbook, const Classify& classify) {
         area.last_column = std::clamp(area.last_column + 2, 8, formula::max_columns);
         sheets.emplace_back(sheet.get(), area);
     }
-    return page(workbook.name, sheets, classify);
+    return page(workbook.name, sheets, classify, opened);
 }
 
 std::string html_page(host::Workbook& workbook, host::Sheet& sheet, const Area& area, const Classify& classify) {

@@ -178,12 +178,14 @@ void WorkbookFile::drop_calculation_chain() {
 }
 
 bool WorkbookFile::breaks_signature() {
+    if (!is_signed(package_)) return false;  // writing large sheets to find out would take long
     update();
-    return package_.changed() && is_signed(package_);
+    return package_.changed();
 }
 
 void WorkbookFile::save(const std::string& path) {
-    if (breaks_signature()) {
+    update();
+    if (package_.changed() && is_signed(package_)) {
         if (!signature_given_up_)
             throw PackageError(package_.file(), {}, "is signed, and the signature would not hold for what was changed");
         remove_signatures(package_);

@@ -34,7 +34,8 @@ class WorkbookFile {
 
     // Brings the package up to date with the workbook, without writing a file.
     void update();
-    // Whether somebody signed the file, and what was changed since breaks the signature. Brings the package up to date.
+    // Whether somebody signed the file, and what was changed since breaks the signature. Brings the package of a
+    // signed file up to date.
     [[nodiscard]] bool breaks_signature();
     // Lets the file be saved without the signature that would no longer hold.
     void give_up_signature() { signature_given_up_ = true; }
