@@ -76,6 +76,11 @@ constexpr auto messages = std::to_array<Message>({
     {3163, "The standard styles that come with Kestrune cannot be changed.  Please duplicate the style, and change the copy: "},
     {3164, "The style cannot be removed, since it is in use as "},
     {3165, "The style will also be removed from these SmartCycles: "},
+    {3166, "Please enter a number format as Excel has them.  This is none: "},
+    {3167, "Please enter the name of a font, of 31 characters at most.  This is none: "},
+    {3168, "Please enter a font size as a whole number of points from 1 to 409.  This is none: "},
+    {3169, "Please enter an orientation from -90 to 90 degrees, or Horizontal, Upward, Downward or Stacked.  This is none: "},
+    {3170, "There is no active cell whose format could be taken.  Please select a cell on a worksheet."},
 });
 // clang-format on
 

@@ -51,7 +51,7 @@ Numbered write(std::ostream& output, Form& form) {
     output << form.Caption() << '\n';
     for (const FormLine& line : form_lines(form)) {
         std::string number;
-        if (line.control->usable() && !line.control->Value().is(automation::Value::Kind::Empty)) {
+        if (line.control->usable() && takes_value(*line.control)) {
             numbered.push_back(form.find(line.control->Name()));
             number = std::to_string(numbered.size());
         }

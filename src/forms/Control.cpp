@@ -135,6 +135,8 @@ automation::Value Control::Value() const {
             return number_;
         case Kind::Tabs:
             return index_;
+        case Kind::Sample:
+            return looks_text(looks_);
         default:
             return {};
     }

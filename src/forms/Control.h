@@ -9,6 +9,7 @@
 #include "automation/Value.h"
 #include "forms/Design.h"
 #include "forms/Event.h"
+#include "forms/Looks.h"
 #include "forms/Picture.h"
 
 namespace kestrune::forms {
@@ -89,8 +90,18 @@ class Control {
     [[nodiscard]] const std::shared_ptr<const forms::Picture>& Picture() const { return picture_; }
     void Picture(std::shared_ptr<const forms::Picture> picture) { assign(picture_, std::move(picture)); }
 
+    // Of the items of a combo box whose design has them, in their order.
+    [[nodiscard]] const std::vector<std::shared_ptr<const forms::Picture>>& ItemPictures() const { return pictures_; }
+    void ItemPictures(std::vector<std::shared_ptr<const forms::Picture>> pictures) {
+        assign(pictures_, std::move(pictures));
+    }
+
+    // Samples.
+    [[nodiscard]] const forms::Looks& Looks() const { return looks_; }
+    void Looks(forms::Looks looks) { assign(looks_, std::move(looks)); }
+
     // The value of whatever kind: a Boolean, a text (of a list with columns that of the first), a number, the place of
-    // the page that is seen. Empty for labels, frames, buttons and images.
+    // the page that is seen, what a sample looks like. Empty for labels, frames, buttons and images.
     [[nodiscard]] automation::Value Value() const;
 
   private:
@@ -110,6 +121,8 @@ class Control {
     std::string text_;
     std::vector<std::string> items_;
     std::shared_ptr<const forms::Picture> picture_;
+    std::vector<std::shared_ptr<const forms::Picture>> pictures_;
+    forms::Looks looks_;
     std::int32_t index_ = -1;
     std::int32_t number_ = 0;
     std::int32_t marked_from_ = 0;

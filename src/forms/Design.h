@@ -21,6 +21,7 @@ enum class Kind : std::uint8_t {
     Push,  // push button
     Tabs,  // holds controls on several pages, of which one is seen
     Image,
+    Sample,  // a text that shows how it looks in a font, with a fill and edges
 };
 
 // Where a control stands, seen from the one before it in the same container.
@@ -71,6 +72,7 @@ struct ControlDesign {
     bool locked = false;                           // a text box that is read, and not written in
     bool takes_keys = false;                       // a text box that takes a key as it is pressed: "Ctrl+Shift+4"
     bool editable = false;                         // a combo box takes any text
+    bool pictured = false;                         // a combo box whose items have pictures before their texts
     std::int32_t min = 0;                          // of spin buttons
     std::int32_t max = 100;
 };

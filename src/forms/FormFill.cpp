@@ -64,9 +64,12 @@ std::string enter_number(Form& form, Control& control, std::string_view value) {
 
 }  // namespace
 
+bool takes_value(const Control& control) {
+    return !control.is(Kind::Sample) && !control.Value().is(automation::Value::Kind::Empty);
+}
+
 std::string enter_value(Form& form, Control& control, std::string_view value) {
-    if (!control.is(Kind::Push) && control.Value().is(automation::Value::Kind::Empty))
-        return "the control has no value";
+    if (!control.is(Kind::Push) && !takes_value(control)) return "the control has no value";
     if (!control.usable()) return control.shown() ? "the control is disabled" : "the control cannot be seen now";
     if (control.design().locked) return "the text can only be read";
     switch (control.kind()) {

@@ -22,6 +22,9 @@ class FormFillError : public std::runtime_error {
         : std::runtime_error(fill.form + "." + fill.control + "=" + fill.value + ": " + std::string(why)) {}
 };
 
+// Whether a person can give the control a value.
+[[nodiscard]] bool takes_value(const Control& control);
+
 // Has a control take a value written as text, as a person at the form would: True or False for option buttons and check
 // boxes, the text of a box, an item or the beginning of one for lists and page tabs ("#3" for the third), the number of
 // a spin button, "click" for a push button. Empty, or why it does not take it; then it is as it was.

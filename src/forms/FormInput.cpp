@@ -10,7 +10,8 @@ namespace kestrune::forms {
 namespace {
 
 bool takes_focus(const Control& control) {
-    return !control.is(Kind::Label) && !control.is(Kind::Frame) && !control.is(Kind::Image) && control.usable();
+    return !control.is(Kind::Label) && !control.is(Kind::Frame) && !control.is(Kind::Image) &&
+           !control.is(Kind::Sample) && control.usable();
 }
 
 bool has_text(const Control& control) { return control.is(Kind::Text) || control.is(Kind::Combo); }

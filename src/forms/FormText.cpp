@@ -38,7 +38,8 @@ bool has_line(const Control& control, const Control* next) {
         case Kind::Push:
             return false;
         case Kind::Label:
-            return !control.Caption().empty() && !(next && is_box(*next) && !next->is(Kind::Spin));
+            return !control.Caption().empty() &&
+                   !(next && (next->is(Kind::Sample) || (is_box(*next) && !next->is(Kind::Spin))));
         case Kind::Frame:
         case Kind::Image:
             return !control.Caption().empty();
@@ -84,6 +85,8 @@ std::string line_of(const Form& form, const Control& control) {
             return title_of(form, control) + ": " + in_one_line(marked_text(control));
         case Kind::Tabs:
             return title_of(form, control) + ": " + control.List()[static_cast<std::size_t>(control.ListIndex())];
+        case Kind::Sample:
+            return title_of(form, control) + ": " + in_one_line(looks_text(control.Looks()));
         default:
             return is_box(control) ? title_of(form, control) + ": " + automation::to_text(control.Value())
                                    : control.Caption();
@@ -99,8 +102,11 @@ std::string title_of(const Form& form, const Control& control) {
         if (&other == &control) break;
         before = &other;
     }
-    const bool labelled = before && before->container() == control.container() && !before->Caption().empty();
-    return labelled && before->is(Kind::Label) ? without_colon(before->Caption()) : std::string(control.Name());
+    const bool has_caption = before && before->container() == control.container() && !before->Caption().empty();
+    // What stands in the column of a check box is what that box is about.
+    const bool labels = has_caption && (before->is(Kind::Label) ||
+                                        (before->is(Kind::Check) && control.design().place == Place::Column));
+    return labels ? without_colon(before->Caption()) : std::string(control.Name());
 }
 
 std::string items_text(const Control& control, std::int32_t most) {

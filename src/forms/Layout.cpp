@@ -19,6 +19,8 @@ constexpr Size frame_inset{8.25, 7.5};
 constexpr double usual_width = 72;  // of boxes
 constexpr double usual_lines = 6;   // of lists
 constexpr double usual_text_lines = 3;
+constexpr double picture_before_item = 15;
+constexpr Size usual_sample{150, 48};
 
 struct Cell {
     std::size_t control;
@@ -141,7 +143,10 @@ class Arranger {
             case Kind::Text:
                 return {usual_width, design.multi_line ? line_height_ * usual_text_lines + box_border : box_height};
             case Kind::Combo:
-                return {design.width > 0 ? design.width : widest(control.List()) + arrows + 9, box_height};
+                return {design.width > 0
+                            ? design.width
+                            : widest(control.List()) + arrows + 9 + (design.pictured ? picture_before_item : 0),
+                        box_height};
             case Kind::List:
                 return {control.design().columns.empty() ? std::max(usual_width, widest(control.List()) + arrows + 9)
                                                          : sum_of(control.design().columns) + arrows + 9,
@@ -153,6 +158,8 @@ class Arranger {
             case Kind::Image:
                 return control.Picture() ? Size{control.Picture()->width * 0.75, control.Picture()->height * 0.75}
                                          : Size{24, 24};
+            case Kind::Sample:
+                return usual_sample;
             case Kind::Frame: {
                 const Size inner = block(&control, 0).need;
                 return {std::max(inner.width, caption().width) + 2 * frame_inset.width,

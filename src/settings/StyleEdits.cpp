@@ -3,7 +3,9 @@
 #include <array>
 #include <utility>
 
+#include "automation/ResumeNext.h"
 #include "automation/Text.h"
+#include "excel/Application.h"
 
 namespace kestrune::settings {
 
@@ -17,7 +19,56 @@ void for_each_style_cycle(Settings& settings, Act&& act) {
     for (std::size_t i = 0; i < style_cycle_count; ++i) act(*settings.cycle(static_cast<StyleCycle>(i)));
 }
 
+constexpr std::string_view standard = "BR Standard";
+
 }  // namespace
+
+std::optional<core::Text> style_name_problem(const cUserSettings& settings, std::string_view name,
+                                             const cStyle* style) {
+    const styles::StyleRef other = settings.Styles->Item(name);
+    if (name.empty()) return core::Text::StyleNameMissing;
+    if (other && other.get() != style) return core::Text::StyleNameTaken;
+    if (same_text(name.substr(0, standard.size()), standard)) return core::Text::StyleNameIsStandard;
+    return std::nullopt;
+}
+
+void change_style(cUserSettings& settings, cStyle& style, const styles::StyleFields& fields) {
+    if (fields.FriendlyName != style.FriendlyName) rename_style(settings, style, fields.FriendlyName);
+    const std::int32_t level = style.AccessLevel;
+    static_cast<styles::StyleFields&>(style) = fields;
+    style.AccessLevel = level;
+}
+
+std::optional<styles::StyleFields> captured_fields(const core::SharedState& shared, styles::StyleFields fields) {
+    const automation::ResumeNext attempt(shared.trace);
+    excel::Range cell;
+    attempt.assign(cell, [&] { return excel::Application(shared.application).ActiveCell(); });
+    if (!cell) return std::nullopt;
+    cStyle captured(std::move(fields));
+    captured.CaptureFromCell(shared, cell);
+    return captured;
+}
+
+void recognise_colors(const core::SharedState& shared, const styles::StyleFields& before, styles::StyleFields& fields) {
+    const automation::ResumeNext attempt(shared.trace);
+    excel::Workbook workbook;
+    attempt.assign(workbook, [&] { return excel::Application(shared.application).ActiveWorkbook(); });
+    if (!workbook) return;
+    const auto nearest = [&](std::int32_t color) {
+        return shared.spreadsheet().nearest_color_index(color, workbook.object());
+    };
+    if (fields.FontColor != before.FontColor) {
+        attempt.assign(fields.AsFontColor, [&] { return workbook.Colors(nearest(fields.FontColor)); });
+    }
+    if (fields.CellColor != before.CellColor ||
+        (fields.CellColor != styles::no_fill && fields.AsCellColorIndex == excel::xlNone)) {
+        attempt.assign(fields.AsCellColorIndex,
+                       [&] { return fields.CellColor == styles::no_fill ? excel::xlNone : nearest(fields.CellColor); });
+    }
+    if (fields.BorderColor != before.BorderColor || fields.AsBorderColorIndex == 0) {
+        attempt.assign(fields.AsBorderColorIndex, [&] { return nearest(fields.BorderColor); });
+    }
+}
 
 void rename_style(cUserSettings& settings, cStyle& style, const std::string& name) {
     for (std::string* used : {&settings.SmartFillDates.Style, &settings.SmartFillNumbers.Style}) {

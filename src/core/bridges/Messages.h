@@ -53,6 +53,11 @@ enum class Text : std::int32_t {
     StyleIsStandard = 3163,
     StyleIsNeeded = 3164,
     StyleIsInCycles = 3165,
+    NoNumberFormat = 3166,
+    NoFontName = 3167,
+    NoFontSize = 3168,
+    NoOrientation = 3169,
+    NoActiveCell = 3170,
 };
 
 }  // namespace kestrune::core

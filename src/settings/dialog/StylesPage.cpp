@@ -12,6 +12,7 @@
 #include "forms/MsgBox.h"
 #include "settings/StyleEdits.h"
 #include "settings/dialog/StylesOfKind.h"
+#include "settings/style_editor/fStyleEditor.h"
 
 namespace kestrune::settings {
 
@@ -20,8 +21,6 @@ using styles::cStyle;
 using styles::StyleRef;
 
 namespace {
-
-constexpr std::string_view standard = "BR Standard";
 
 std::string line_of(const cStyle& style) {
     const std::string format = style.bTransNumberFormat ? "" : automation::one_line(style.NumberFormat);
@@ -41,12 +40,16 @@ StylesPage::StylesPage(forms::Form& form, Draft& draft) : SettingsPage(form, dra
     form.on("txtStyleName", Event::AfterUpdate, [this](auto&) { rename(); });
     const auto buttons = std::to_array<std::pair<std::string_view, void (StylesPage::*)()>>({
         {"btnRenameStyle", &StylesPage::rename},
+        {"btnEditStyle", &StylesPage::edit},
+        {"btnNewFromCell", &StylesPage::make_from_cell},
         {"btnDuplicateStyle", &StylesPage::duplicate},
         {"btnRemoveStyle", &StylesPage::remove},
     });
     for (const auto& [name, act] : buttons) {
         form.on(name, Event::Click, [this, act](auto&) { (this->*act)(); });
     }
+    form.on("lstStyles", Event::DblClick, [this](auto&) { edit(); });
+    form.on("btnNewStyle", Event::Click, [this](auto&) { make({}); });
     form.on("btnStyleListUp", Event::Click, [this](auto&) { move(-1); });
     form.on("btnStyleListDown", Event::Click, [this](auto&) { move(1); });
 }
@@ -67,20 +70,6 @@ StyleRef StylesPage::changeable() const {
     return nullptr;
 }
 
-bool StylesPage::accepts(const std::string& name, const cStyle* style) const {
-    const StyleRef other = settings().Styles->Item(name);
-    if (name.empty()) {
-        tell(core::Text::StyleNameMissing);
-    } else if (other && other.get() != style) {
-        tell(core::Text::StyleNameTaken, name);
-    } else if (automation::same_text(std::string_view(name).substr(0, standard.size()), standard)) {
-        tell(core::Text::StyleNameIsStandard, name);
-    } else {
-        return true;
-    }
-    return false;
-}
-
 void StylesPage::show_list(const cStyle* choice) {
     const auto listed = styles_of_kind(settings(), at("cmbStyleKind").ListIndex());
     std::vector<std::string> lines;
@@ -94,7 +83,7 @@ void StylesPage::show_chosen() {
     const StyleRef style = chosen();
     const bool free = style && style->AccessLevel != styles::protected_style;
     at("txtStyleName").Text(style ? style->FriendlyName : std::string());
-    for (const auto name : {"txtStyleName", "btnRenameStyle", "btnRemoveStyle"}) at(name).Enabled(free);
+    for (const auto name : {"txtStyleName", "btnRenameStyle", "btnEditStyle", "btnRemoveStyle"}) at(name).Enabled(free);
     at("btnDuplicateStyle").Enabled(style != nullptr);
     // Among the styles of one kind, moving would go past others that are not seen.
     const bool whole = at("cmbStyleKind").ListIndex() == 0;
@@ -107,12 +96,45 @@ void StylesPage::rename() {
     const StyleRef style = chosen();
     const std::string name(automation::trimmed(at("txtStyleName").Text()));
     if (!style || name == style->FriendlyName) return;
-    if (changeable() && accepts(name, style.get())) {
+    const auto problem = style_name_problem(settings(), name, style.get());
+    if (!changeable()) {
+        at("txtStyleName").Text(style->FriendlyName);
+    } else if (problem) {
+        tell(*problem, name);
+        at("txtStyleName").Text(style->FriendlyName);
+    } else {
         rename_style(settings(), *style, name);
         show_list(style.get());
-    } else {
-        at("txtStyleName").Text(style->FriendlyName);
     }
+}
+
+void StylesPage::edit() {
+    const StyleRef style = changeable();
+    if (!style) return;
+    fStyleEditor editor(shared(), settings(), *style, style.get());
+    editor.Show(shared().presenter);
+    if (!editor.result()) return;
+    change_style(settings(), *style, *editor.result());
+    show_list(style.get());
+}
+
+void StylesPage::make(styles::StyleFields fields) {
+    const StyleRef before = chosen();
+    fields.FriendlyName = unused_style_name(settings(), "My Style");
+    // Of the kind that is listed.
+    fields.Category = std::max(styles::category::none, at("cmbStyleKind").ListIndex() - 1);
+    fStyleEditor editor(shared(), settings(), fields, nullptr);
+    editor.Show(shared().presenter);
+    if (!editor.result()) return;
+    const auto made = std::make_shared<cStyle>(*editor.result());
+    settings().Styles->Add(made, {}, before ? settings().Styles->position_of(*before) : 0, true);
+    show_list(made.get());
+}
+
+void StylesPage::make_from_cell() {
+    const auto captured = captured_fields(shared(), {});
+    if (!captured) return tell(core::Text::NoActiveCell);
+    make(*captured);
 }
 
 void StylesPage::duplicate() {

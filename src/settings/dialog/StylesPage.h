@@ -15,11 +15,13 @@ class StylesPage final : public SettingsPage {
     [[nodiscard]] styles::StyleRef chosen() const;
     // The chosen style when it may be changed; else a message says why not, and this is null.
     [[nodiscard]] styles::StyleRef changeable() const;
-    // Whether a style other than this one (null for none) may have a name; else a message says why not.
-    [[nodiscard]] bool accepts(const std::string& name, const styles::cStyle* style) const;
     void show_list(const styles::cStyle* choice);
     void show_chosen();
     void rename();
+    void edit();
+    // Has a new style of these fields edited, and put behind the chosen one.
+    void make(styles::StyleFields fields);
+    void make_from_cell();
     void duplicate();
     void remove();
     void move(std::int32_t step);

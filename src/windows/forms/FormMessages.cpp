@@ -7,6 +7,8 @@
 
 #include "automation/Text.h"
 #include "windows/com/Unicode.h"
+#include "windows/forms/DrawnControl.h"
+#include "windows/forms/DrawnSample.h"
 #include "windows/forms/FormWindow.h"
 #include "windows/forms/NativeControl.h"
 #include "windows/forms/PressedKey.h"
@@ -120,8 +122,14 @@ LRESULT FormWindow::answer(UINT message, WPARAM w, LPARAM l) {
             return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_3DFACE));
         case WM_DRAWITEM: {
             const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
-            if (const Control* image = control_of(static_cast<int>(item.CtlID))) {
-                draw_picture(*image, item.hDC, item.rcItem);
+            const Control* drawn = control_of(static_cast<int>(item.CtlID));
+            if (!drawn || !scale_) return TRUE;
+            if (drawn->is(Kind::Combo)) {
+                draw_item(*drawn, *scale_, item);
+            } else if (drawn->is(Kind::Sample)) {
+                draw_sample(drawn->Looks(), *scale_, item.hDC, item.rcItem);
+            } else {
+                draw_picture(*drawn, item.hDC, item.rcItem);
             }
             return TRUE;
         }

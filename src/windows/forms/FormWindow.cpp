@@ -6,6 +6,7 @@
 
 #include "forms/Layout.h"
 #include "windows/com/Unicode.h"
+#include "windows/forms/DrawnControl.h"
 #include "windows/forms/NativeControl.h"
 
 namespace kestrune::windows {
@@ -256,7 +257,10 @@ Control* FormWindow::control_of(int number) {
 }
 
 void FormWindow::set_font() {
-    for (HWND native : natives_) SendMessageW(native, WM_SETFONT, reinterpret_cast<WPARAM>(scale_->font()), FALSE);
+    for (std::size_t i = 0; i < natives_.size(); ++i) {
+        SendMessageW(natives_[i], WM_SETFONT, reinterpret_cast<WPARAM>(scale_->font()), FALSE);
+        if (form_.controls()[i].design().pictured) fit_items(natives_[i], *scale_);
+    }
     if (tips_) SendMessageW(tips_, WM_SETFONT, reinterpret_cast<WPARAM>(scale_->font()), FALSE);
 }
 

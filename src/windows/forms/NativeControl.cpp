@@ -23,7 +23,7 @@ struct NativeClass {
 };
 
 // In the order of Kind. Buttons do not check themselves: the form says what is on.
-constexpr std::array<NativeClass, 11> classes{{
+constexpr std::array<NativeClass, 12> classes{{
     {L"STATIC", SS_LEFT | SS_NOTIFY, 0},
     {L"BUTTON", BS_GROUPBOX, WS_EX_TRANSPARENT},
     {L"BUTTON", BS_RADIOBUTTON | BS_NOTIFY, 0},
@@ -34,6 +34,7 @@ constexpr std::array<NativeClass, 11> classes{{
     {UPDOWN_CLASSW, UDS_ARROWKEYS, 0},
     {L"BUTTON", BS_PUSHBUTTON | BS_NOTIFY, 0},
     {WC_TABCONTROLW, TCS_FOCUSONBUTTONDOWN, 0},
+    {L"STATIC", SS_OWNERDRAW, 0},
     {L"STATIC", SS_OWNERDRAW, 0},
 }};
 
@@ -133,6 +134,7 @@ HWND create_native(const Control& control, HWND form, int number) {
     if (control.is(Kind::Combo) && control.design().editable) {
         made.style = (made.style & ~static_cast<DWORD>(CBS_DROPDOWNLIST)) | CBS_DROPDOWN;
     }
+    if (control.design().pictured) made.style |= CBS_OWNERDRAWFIXED | CBS_HASSTRINGS;
     if (control.design().role == forms::Role::Default) made.style |= BS_DEFPUSHBUTTON;
     if (has_columns(control)) {
         made = {WC_LISTVIEWW, LVS_REPORT | LVS_OWNERDATA | LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER,
@@ -211,6 +213,7 @@ void show_in(HWND native, const Control& control, bool items_too) {
         case Kind::Spin:
             break;
         case Kind::Image:
+        case Kind::Sample:
             InvalidateRect(native, nullptr, TRUE);
             break;
         default:
@@ -244,33 +247,6 @@ std::string text_in(HWND native) {
     std::vector<wchar_t> text(static_cast<std::size_t>(GetWindowTextLengthW(native)) + 1);
     GetWindowTextW(native, text.data(), static_cast<int>(text.size()));
     return to_utf8(text.data());
-}
-
-void draw_picture(const Control& control, HDC context, const RECT& box) {
-    FillRect(context, &box, GetSysColorBrush(COLOR_3DFACE));
-    const auto& picture = control.Picture();
-    if (!picture || picture->width < 1 || picture->height < 1) return;
-    // Windows' stretching knows no transparency: the form's colour shows through beforehand.
-    const DWORD ground = GetSysColor(COLOR_3DFACE);
-    std::vector<std::uint32_t> pixels = picture->pixels;
-    pixels.resize(static_cast<std::size_t>(picture->width) * static_cast<std::size_t>(picture->height));
-    const auto mixed = [](std::uint32_t over, std::uint32_t under, std::uint32_t alpha) {
-        return ((over & 0xFF) * alpha + (under & 0xFF) * (255 - alpha)) / 255;
-    };
-    for (std::uint32_t& pixel : pixels) {
-        const std::uint32_t alpha = pixel >> 24;
-        pixel = mixed(pixel >> 16, GetRValue(ground), alpha) << 16 | mixed(pixel >> 8, GetGValue(ground), alpha) << 8 |
-                mixed(pixel, GetBValue(ground), alpha);
-    }
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof info.bmiHeader;
-    info.bmiHeader.biWidth = picture->width;
-    info.bmiHeader.biHeight = -picture->height;  // rows from the top
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    SetStretchBltMode(context, HALFTONE);
-    StretchDIBits(context, box.left, box.top, box.right - box.left, box.bottom - box.top, 0, 0, picture->width,
-                  picture->height, pixels.data(), &info, DIB_RGB_COLORS, SRCCOPY);
 }
 
 }  // namespace kestrune::windows

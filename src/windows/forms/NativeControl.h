@@ -26,7 +26,4 @@ std::wstring native_caption(const forms::Control& control);
 // The text of a window.
 std::string text_in(HWND native);
 
-// Draws the picture of an image control.
-void draw_picture(const forms::Control& control, HDC context, const RECT& box);
-
 }  // namespace kestrune::windows
