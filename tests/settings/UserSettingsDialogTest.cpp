@@ -1,5 +1,8 @@
 // The settings dialog, as a person works with it.
+#include <map>
+
 #include "automation/Object.h"
+#include "automation/Text.h"
 #include "core/iGlobal.h"
 #include "forms/Form.h"
 #include "settings/LiveSettings.h"
@@ -245,6 +248,23 @@ TEST_F(UserSettingsDialogTest, ToolsShowTheirOptionsAndTheNoteNamesTheSmartCycle
         form.press(Key::Enter);
     });
     EXPECT_EQ(shared.settings().SmartCopyRight.IntervalValues, 4);
+}
+
+TEST_F(UserSettingsDialogTest, AnAccessKeyGoesToOneControlOfAPage) {
+    show([](Form& form) {
+        for (int number = 0; number < form["tabSettings"].ListCount(); ++number) {
+            page(form, number);
+            std::map<char, std::string> owners;
+            for (const forms::Control& control : form.controls()) {
+                const char letter = automation::lower(control.Accelerator());
+                if (!letter || !control.shown()) continue;
+                const auto [owner, first] = owners.emplace(letter, control.Name());
+                EXPECT_TRUE(first) << letter << " of " << owner->second << " and " << control.Name();
+            }
+            EXPECT_FALSE(owners.empty());
+        }
+        form.press(Key::Escape);
+    });
 }
 
 }  // namespace

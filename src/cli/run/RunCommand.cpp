@@ -143,7 +143,7 @@ class Session {
             book.save(options_.workbook);
         } else if (options_.output) {
             book.save(*options_.output);
-        } else if (!steps_.empty()) {
+        } else {
             fmt::print(stderr, "nothing saved: -o FILE or --in-place saves the workbook\n");
         }
     }

@@ -105,7 +105,7 @@ inline constexpr auto auto_color_controls = std::to_array<forms::ControlDesign>(
      .place = forms::Place::Beside,
      .width = 12,
      .height = 12},
-    {.name = "lblHyperLinkColor", .caption = "Hyperlinks:", .accelerator = 'y', .in = "fraColors"},
+    {.name = "lblHyperLinkColor", .caption = "Hyperlinks:", .accelerator = 'l', .in = "fraColors"},
     {.name = "cmbHyperLinkColor",
      .kind = forms::Kind::Combo,
      .in = "fraColors",

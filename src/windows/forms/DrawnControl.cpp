@@ -37,9 +37,10 @@ void draw(const forms::Picture* picture, HDC context, const RECT& box, DWORD gro
 
 }  // namespace
 
-void draw_picture(const Control& control, HDC context, const RECT& box) {
-    FillRect(context, &box, GetSysColorBrush(COLOR_3DFACE));
-    draw(control.Picture().get(), context, box, GetSysColor(COLOR_3DFACE));
+void draw_picture(const Control& control, HDC context, const RECT& box, COLORREF ground) {
+    SetDCBrushColor(context, ground);
+    FillRect(context, &box, static_cast<HBRUSH>(GetStockObject(DC_BRUSH)));
+    draw(control.Picture().get(), context, box, ground);
 }
 
 void draw_item(const Control& combo, const Scale& scale, const DRAWITEMSTRUCT& item) {

@@ -7,8 +7,8 @@
 
 namespace kestrune::windows {
 
-// Draws the picture of an image control.
-void draw_picture(const forms::Control& control, HDC context, const RECT& box);
+// Draws the picture of an image control, on a colour (BGR).
+void draw_picture(const forms::Control& control, HDC context, const RECT& box, COLORREF ground);
 
 // Draws an item of a combo box whose items have pictures, or what stands in the box itself.
 void draw_item(const forms::Control& combo, const Scale& scale, const DRAWITEMSTRUCT& item);

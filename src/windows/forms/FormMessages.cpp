@@ -119,7 +119,11 @@ LRESULT FormWindow::answer(UINT message, WPARAM w, LPARAM l) {
         case WM_CTLCOLORSTATIC:
         case WM_CTLCOLORBTN:
             SetBkMode(reinterpret_cast<HDC>(w), TRANSPARENT);
-            return reinterpret_cast<LRESULT>(GetSysColorBrush(COLOR_3DFACE));
+            SetDCBrushColor(reinterpret_cast<HDC>(w), ground(control_of(GetDlgCtrlID(reinterpret_cast<HWND>(l)))));
+            return reinterpret_cast<LRESULT>(GetStockObject(DC_BRUSH));
+        case WM_THEMECHANGED:
+            tabs_ground_.reset();
+            break;
         case WM_DRAWITEM: {
             const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(l);
             const Control* drawn = control_of(static_cast<int>(item.CtlID));
@@ -129,7 +133,7 @@ LRESULT FormWindow::answer(UINT message, WPARAM w, LPARAM l) {
             } else if (drawn->is(Kind::Sample)) {
                 draw_sample(drawn->Looks(), *scale_, item.hDC, item.rcItem);
             } else {
-                draw_picture(*drawn, item.hDC, item.rcItem);
+                draw_picture(*drawn, item.hDC, item.rcItem, ground(drawn));
             }
             return TRUE;
         }

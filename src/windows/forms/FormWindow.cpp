@@ -251,6 +251,14 @@ HWND FormWindow::native(const Control& control) const {
     return nullptr;
 }
 
+COLORREF FormWindow::ground(const Control* control) {
+    const Control* around = control ? control->container() : nullptr;
+    while (around && !around->is(Kind::Tabs)) around = around->container();
+    if (!around) return GetSysColor(COLOR_3DFACE);
+    if (!tabs_ground_) tabs_ground_ = ground_of(native(*around));
+    return *tabs_ground_;
+}
+
 Control* FormWindow::control_of(int number) {
     const auto place = static_cast<std::size_t>(number - first_number);
     return number >= first_number && place < natives_.size() ? &form_.controls()[place] : nullptr;

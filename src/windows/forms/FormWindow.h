@@ -65,6 +65,8 @@ class FormWindow final : public forms::FormView {
     void focus_now();
     [[nodiscard]] SIZE least_size() const;
     [[nodiscard]] HWND native(const forms::Control& control) const;
+    // The colour behind a control; of the form itself for null.
+    [[nodiscard]] COLORREF ground(const forms::Control* control);
     [[nodiscard]] forms::Control* control_of(int number);
 
     forms::Form& form_;
@@ -76,6 +78,7 @@ class FormWindow final : public forms::FormView {
     std::vector<HWND> natives_;                    // one a control, in the form's order
     std::vector<std::vector<std::string>> items_;  // that the lists show
     std::vector<std::string> captions_;            // by which the controls were arranged
+    std::optional<COLORREF> tabs_ground_;          // behind what stands in tabs
     std::wstring tip_;                             // that is on the screen
     std::exception_ptr failure_;
     int writing_ = 0;

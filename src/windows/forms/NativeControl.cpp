@@ -46,11 +46,21 @@ void set_items(HWND native, const Control& control, UINT reset, UINT add) {
     }
 }
 
+// A text in which "&" stands for itself, but for the one before the letter at mark.
+std::string with_mark(const std::string& caption, std::size_t mark) {
+    std::string text;
+    for (std::size_t i = 0; i < caption.size(); ++i) {
+        if (i == mark || caption[i] == '&') text += '&';
+        text += caption[i];
+    }
+    return text;
+}
+
 void set_tabs(HWND native, const Control& control) {
     SendMessageW(native, TCM_DELETEALLITEMS, 0, 0);
     int place = 0;
     for (const std::string& page : control.List()) {
-        std::wstring text = to_utf16(page);
+        std::wstring text = to_utf16(with_mark(page, std::string::npos));
         TCITEMW item{};
         item.mask = TCIF_TEXT;
         item.pszText = text.data();
@@ -235,18 +245,31 @@ std::wstring native_caption(const Control& control) {
             std::ranges::find_if(caption, [&](char c) { return automation::lower(c) == automation::lower(letter); });
         if (found != caption.end()) mark = static_cast<std::size_t>(found - caption.begin());
     }
-    std::string text;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (i == mark || caption[i] == '&') text += '&';
-        text += caption[i];
-    }
-    return to_utf16(text);
+    return to_utf16(with_mark(caption, mark));
 }
 
 std::string text_in(HWND native) {
     std::vector<wchar_t> text(static_cast<std::size_t>(GetWindowTextLengthW(native)) + 1);
     GetWindowTextW(native, text.data(), static_cast<int>(text.size()));
     return to_utf8(text.data());
+}
+
+COLORREF ground_of(HWND tabs) {
+    RECT box{};
+    GetClientRect(tabs, &box);
+    HDC screen = GetDC(tabs);
+    HDC memory = CreateCompatibleDC(screen);
+    HBITMAP bitmap = CreateCompatibleBitmap(screen, box.right, box.bottom);
+    HGDIOBJ before = SelectObject(memory, bitmap);
+    FillRect(memory, &box, GetSysColorBrush(COLOR_3DFACE));
+    SendMessageW(tabs, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(memory), PRF_CLIENT);
+    SendMessageW(tabs, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&box));
+    const COLORREF color = GetPixel(memory, box.left + 1, (box.top + box.bottom) / 2);
+    SelectObject(memory, before);
+    DeleteObject(bitmap);
+    DeleteDC(memory);
+    ReleaseDC(tabs, screen);
+    return color == CLR_INVALID ? GetSysColor(COLOR_3DFACE) : color;
 }
 
 }  // namespace kestrune::windows

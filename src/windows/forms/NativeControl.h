@@ -26,4 +26,7 @@ std::wstring native_caption(const forms::Control& control);
 // The text of a window.
 std::string text_in(HWND native);
 
+// The colour that a tab control gives its pages: the form's own, or white, as the version of Windows has it.
+[[nodiscard]] COLORREF ground_of(HWND tabs);
+
 }  // namespace kestrune::windows

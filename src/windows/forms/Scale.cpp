@@ -77,7 +77,8 @@ forms::Size ScreenMeasures::text(std::string_view text, double width) const {
     RECT box{0, 0, width > 0 ? scale_.pixels(width) : 0, 0};
     DrawTextW(screen_, wide.c_str(), static_cast<int>(wide.size()), &box,
               DT_CALCRECT | DT_NOPREFIX | (width > 0 ? DT_WORDBREAK : DT_SINGLELINE));
-    return {scale_.points(box.right - box.left), scale_.points(box.bottom - box.top)};
+    // Places are rounded to whole pixels, at both ends.
+    return {scale_.points(box.right - box.left + 1), scale_.points(box.bottom - box.top)};
 }
 
 }  // namespace kestrune::windows
