@@ -59,7 +59,6 @@ class Arranger {
     // What stands in a container (null: the form), on one page of it.
     [[nodiscard]] Block block(const Control* container, std::int32_t page) const {
         Block result;
-        double button = 0;
         for (std::size_t i = 0; i < controls_.size(); ++i) {
             const Control& control = controls_[i];
             if (control.container() != container ||
@@ -68,9 +67,15 @@ class Arranger {
             }
             if (control.design().place == Place::Below || result.lines.empty()) result.lines.emplace_back();
             add(result.lines.back(), i);
-            if (control.is(Kind::Push)) button = std::max(button, result.lines.back().cells.back().need.width);
         }
         align_columns(result);
+        // Of one size are those that stand with their like.
+        double button = 0;
+        for (const Line& line : result.lines) {
+            for (const Cell& cell : line.cells) {
+                if (line.buttons) button = std::max(button, cell.need.width);
+            }
+        }
         for (Line& line : result.lines) {
             if (&line != &result.lines.front()) line.space_above = line.buttons ? buttons_gap : line_gap;
             for (Cell& cell : line.cells) {

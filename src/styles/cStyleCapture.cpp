@@ -70,7 +70,8 @@ void cStyle::capture_borders(const core::SharedState& shared, const excel::Range
         if (BorderStyle == xlNone) return;
         attempt([&] {
             const Value index = source.ColorIndex();
-            BorderColor = workbook.Colors(index);
+            // As with fonts, the automatic colour is in no palette.
+            BorderColor = index == Value(excel::xlColorIndexAutomatic) ? 0 : workbook.Colors(index);
             AsBorderColorIndex = to_integer(index);
         });
     };

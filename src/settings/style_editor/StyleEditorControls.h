@@ -48,13 +48,8 @@ constexpr ControlDesign color(std::string_view name, std::string_view in, std::i
             .pictured = true};
 }
 constexpr ControlDesign patch(std::string_view name, std::string_view in, std::int32_t page) {
-    return {.name = name,
-            .kind = Kind::Image,
-            .in = in,
-            .place = Place::Beside,
-            .width = 12,
-            .height = 12,
-            .page = page};
+    return {
+        .name = name, .kind = Kind::Image, .in = in, .place = Place::Beside, .width = 12, .height = 12, .page = page};
 }
 constexpr ControlDesign on_or_off(std::string_view name, std::string_view caption, char key, std::int32_t page) {
     return {.name = name,
@@ -69,10 +64,12 @@ constexpr ControlDesign note(std::string_view name, std::string_view caption, st
     return {.name = name, .caption = caption, .in = editor_page::tabs, .page = page};
 }
 constexpr ControlDesign kind(std::string_view name, std::string_view caption, char key, Place place) {
-    return {.name = name, .kind = Kind::Option, .caption = caption, .accelerator = key, .in = "fraKind", .place = place};
+    return {
+        .name = name, .kind = Kind::Option, .caption = caption, .accelerator = key, .in = "fraKind", .place = place};
 }
 constexpr ControlDesign side(std::string_view name, std::string_view caption, char key, Place place) {
-    return {.name = name, .kind = Kind::Check, .caption = caption, .accelerator = key, .in = "fraSides", .place = place};
+    return {
+        .name = name, .kind = Kind::Check, .caption = caption, .accelerator = key, .in = "fraSides", .place = place};
 }
 constexpr ControlDesign label(std::string_view name, std::string_view caption, char key, std::string_view in,
                               std::int32_t page) {

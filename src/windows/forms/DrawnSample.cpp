@@ -205,7 +205,9 @@ void draw_text(HDC context, const Looks& looks, const Scale& scale, const RECT& 
     place.right = place.left + needs.cx;
     place.bottom = place.top + needs.cy;
     const UINT lines = looks.wraps || looks.stacked ? DT_WORDBREAK : DT_SINGLELINE;
-    const UINT side = looks.across == forms::Side::Start ? DT_LEFT : looks.across == forms::Side::End ? DT_RIGHT : DT_CENTER;
+    const UINT side = looks.across == forms::Side::Start ? DT_LEFT
+                      : looks.across == forms::Side::End ? DT_RIGHT
+                                                         : DT_CENTER;
     DrawTextW(context, text.c_str(), static_cast<int>(text.size()), &place, DT_NOPREFIX | DT_NOCLIP | lines | side);
     draw_underlines(context, looks, scale, room, place);
 }

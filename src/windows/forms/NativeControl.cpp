@@ -187,6 +187,10 @@ void fit_columns(HWND native, const Control& control, const std::function<int(do
         SendMessageW(native, LVM_SETCOLUMNWIDTH, place++, MAKELPARAM(std::max(width, 0), 0));
         left -= width;
     }
+    // Which of its lines are seen, a list knows only when it has its size.
+    if (control.ListIndex() >= 0) {
+        SendMessageW(native, LVM_ENSUREVISIBLE, static_cast<WPARAM>(control.ListIndex()), FALSE);
+    }
 }
 
 void show_in(HWND native, const Control& control, bool items_too) {
