@@ -129,6 +129,49 @@ class Dialogs(unittest.TestCase):
         page = next(self.folder.rglob("HotKeys.html")).read_text()
         self.assertIn("<td>Ctrl+Shift+U</td><td>Currency SmartCycle</td>", page)
 
+    def test_a_session_renames_a_cycle_and_gives_it_a_style_of_its_own(self):
+        prefs = str(self.folder / "house.xml")
+
+        def program(*arguments):
+            done = subprocess.run([KESTRUNE, *arguments], capture_output=True, text=True, timeout=120, check=True)
+            return json.loads(done.stdout) if "--json" in arguments else done.stdout
+
+        program("prefs", "init", "--prefs", prefs)
+        before = pathlib.Path(prefs).read_bytes()
+        fills = [
+            "fStyleEditor.txtName=House Money", "fStyleEditor.optDataLong=True", "fStyleEditor.txtComments=For banks",
+            "fStyleEditor.tabStyle=Number", 'fStyleEditor.txtNumberFormat=#,##0.0 "mln"',
+            "fStyleEditor.tabStyle=Font", "fStyleEditor.ckbFontSize=False", "fStyleEditor.cmbFontColor=Dark Red",
+            "fUserSettings.tabSettings=Styles", "fUserSettings.btnNewStyle=click", "fUserSettings.btnStyleListUp=click",
+            "fUserSettings.tabSettings=Style Cycles", "fUserSettings.lstStyleToggles=Currency SmartCycle",
+            "fUserSettings.txtStyleToggleName=Money", "fUserSettings.lstToggleStyles=#1",
+            "fUserSettings.lstAllStyles=House Money", "fUserSettings.btnAddStyle=click",
+            "fUserSettings.btnStyleUp=click", "fUserSettings.btnApply=click",
+        ]
+        session = [part for fill in fills for part in ("--set", fill)] + ["--prefs", prefs]
+        # With the editor cancelled there is no style to move: nothing of the session is done.
+        refused = self.run_tool(*session, "--answer", "cancel", "ShowUserSettings", status=2)
+        self.assertIn("fUserSettings.btnStyleListUp=click: the control is disabled", refused.stderr)
+        self.assertEqual(pathlib.Path(prefs).read_bytes(), before)
+
+        steps = json.loads(self.run_tool(*session, "--json", "ShowUserSettings", "@B2",
+                                         "menu:Kestrune/Format/Money/1").stdout)
+        editor = steps[0]["forms"][0]
+        self.assertEqual((editor["form"], editor["answer"]), ("fStyleEditor", "btnOK"))
+        self.assertEqual(editor["controls"]["smpStyle"], "1,234.6 mln in Arial 10, #800000, at the right")
+        self.assertEqual(steps[2]["clicked"], "Kestrune/Format/Money/House Money")
+        cell = openpyxl.load_workbook(self.out).active["B2"]
+        self.assertEqual((cell.number_format, cell.font.color.rgb, cell.font.sz), ('#,##0.0 "mln"', "FF800000", 11))
+
+        kept = program("prefs", "show", "--json", "--prefs", prefs)
+        self.assertEqual(kept["CurrencyStyleToggle"]["Name"], "Money")
+        self.assertEqual(kept["CurrencyStyleToggle"]["Styles"][:2], ["House Money", "BR US Dollar No Decimals"])
+        style = kept["Styles"][0]
+        self.assertEqual([style[name] for name in ("FriendlyName", "Category", "Comments", "bTransFontSize", "FontColor")],
+                         ["House Money", 1, "For banks", True, 0x80])
+        popup = program("menu", str(self.book), "--prefs", prefs, "--json", "Kestrune/Format/Money")
+        self.assertEqual(popup[0]["items"][0]["caption"], "House Money")
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -137,6 +137,7 @@ inline constexpr auto number_page_controls = std::to_array<forms::ControlDesign>
     editor_row::property("ckbNumberFormat", "Number format", 'N', editor_page::number),
     {.name = "lstNumberFormats",
      .kind = forms::Kind::List,
+     .caption = "Formats",
      .in = editor_page::tabs,
      .height = 120,
      .page = editor_page::number,

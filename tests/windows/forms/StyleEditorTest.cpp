@@ -92,6 +92,9 @@ TEST_F(StyleEditor, IsWorkedByKeys) {
     hand.access_key(L'c');
     hand.access_key(L'c');
     hand.key(VK_TAB);
+    hand.key(VK_F4);  // unfolds the list
+    take("colors");
+    hand.key(VK_F4);
     for (int i = 0; i < 6; ++i) hand.key(VK_UP);
     take("worked");
     hand.key(VK_RETURN);
