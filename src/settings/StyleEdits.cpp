@@ -60,12 +60,14 @@ void recognise_colors(const core::SharedState& shared, const styles::StyleFields
     if (fields.FontColor != before.FontColor) {
         attempt.assign(fields.AsFontColor, [&] { return workbook.Colors(nearest(fields.FontColor)); });
     }
-    if (fields.CellColor != before.CellColor ||
-        (fields.CellColor != styles::no_fill && fields.AsCellColorIndex == excel::xlNone)) {
+    const bool fill_unknown =
+        !fields.bTransCellColor && fields.CellColor != styles::no_fill && fields.AsCellColorIndex == excel::xlNone;
+    if (fields.CellColor != before.CellColor || fill_unknown) {
         attempt.assign(fields.AsCellColorIndex,
                        [&] { return fields.CellColor == styles::no_fill ? excel::xlNone : nearest(fields.CellColor); });
     }
-    if (fields.BorderColor != before.BorderColor || fields.AsBorderColorIndex == 0) {
+    const bool line_unknown = !fields.bTransBorders && fields.AsBorderColorIndex == 0;
+    if (fields.BorderColor != before.BorderColor || line_unknown) {
         attempt.assign(fields.AsBorderColorIndex, [&] { return nearest(fields.BorderColor); });
     }
 }
