@@ -14,7 +14,7 @@ inline styles::StylesRef styles_of_kind(const cUserSettings& settings, std::int3
 
 // What a category is called.
 constexpr std::string_view kind_name(std::int32_t category) {
-    const auto place = static_cast<std::size_t>(category + 1);
+    const auto place = static_cast<std::size_t>(category) + 1;
     return category >= 0 && place < style_kinds.size() ? style_kinds[place] : style_kinds[1];
 }
 

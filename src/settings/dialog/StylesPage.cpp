@@ -46,7 +46,7 @@ StylesPage::StylesPage(forms::Form& form, Draft& draft) : SettingsPage(form, dra
         {"btnRemoveStyle", &StylesPage::remove},
     });
     for (const auto& [name, act] : buttons) {
-        form.on(name, Event::Click, [this, act](auto&) { (this->*act)(); });
+        form.on(name, Event::Click, [this, act = act](auto&) { (this->*act)(); });
     }
     form.on("lstStyles", Event::DblClick, [this](auto&) { edit(); });
     form.on("btnNewStyle", Event::Click, [this](auto&) { make({}); });
@@ -64,7 +64,7 @@ StyleRef StylesPage::chosen() const {
 }
 
 StyleRef StylesPage::changeable() const {
-    const StyleRef style = chosen();
+    StyleRef style = chosen();
     if (!style || style->AccessLevel != styles::protected_style) return style;
     tell(core::Text::StyleIsStandard, style->FriendlyName);
     return nullptr;
