@@ -36,13 +36,13 @@ struct Looks {
     std::optional<std::int32_t> fill;  // BGR; nothing for none
     Side across = Side::Start;
     Side down = Side::End;
-    double inset = 0;           // points between the text and the side that it stands at
-    std::int32_t turn = 0;      // degrees, anticlockwise, from -90 to 90
-    bool stacked = false;       // the letters one below the other
-    bool wraps = false;         // breaks into lines
-    bool repeats = false;       // as often as the box has room for
-    bool shrinks = false;       // until the box has room for it
-    std::array<Edge, 4> edges;  // left, top, right, bottom
+    double inset = 0;             // points between the text and the side that it stands at
+    std::int32_t turn = 0;        // degrees, anticlockwise, from -90 to 90
+    bool stacked = false;         // the letters one below the other
+    bool wraps = false;           // breaks into lines
+    bool repeats = false;         // as often as the box has room for
+    bool shrinks = false;         // until the box has room for it
+    std::array<Edge, 4> edges{};  // left, top, right, bottom
 
     bool operator==(const Looks&) const = default;
 };

@@ -389,5 +389,32 @@ TEST(ListForms, AreWrittenAroundWhatIsChosenWithTheMarkInTheText) {
     EXPECT_EQ(form["lstCells"].ListIndex(), 1);
 }
 
+TEST(SampleForms, ShowWhatTheyLookLikeAndAreNotWorked) {
+    static constexpr auto controls = std::to_array<ControlDesign>({
+        {.name = "ckbSize", .kind = Kind::Check, .caption = "Size"},
+        {.name = "txtSize", .kind = Kind::Text, .place = Place::Column},
+        {.name = "smpCell", .kind = Kind::Sample, .caption = "Preview"},
+    });
+    static constexpr FormDesign design{.name = "fCell", .caption = "Cell", .controls = controls};
+    Form form(design);
+    ScriptedPresenter presenter;
+    presenter.work_next([](Form& shown) {
+        shown.press(Key::Tab);
+        shown.press(Key::Tab);
+        EXPECT_EQ(shown.ActiveControl(), &shown["ckbSize"]);
+        EXPECT_EQ(enter_value(shown, shown["smpCell"], "7"), "the control has no value");
+    });
+    Looks looks{.text = "7", .font = "Verdana", .size = 8.5, .struck = true, .fill = 0x99FFFF, .turn = -30};
+    looks.edges = {Edge{Dash::Double}, Edge{Dash::Dots, 1.5, 0xFF}, Edge{Dash::Double}, Edge{}};
+    form["smpCell"].Looks(looks);
+    form.Show(presenter);
+    std::vector<std::string> lines;
+    for (const FormLine& line : form_lines(form)) lines.push_back(line.text);
+    EXPECT_THAT(
+        lines, testing::ElementsAre("[ ] Size", "Size: ",
+                                    "Preview: 7 in Verdana 8.5, struck through on #FFFF99, turned by -30 degrees, "
+                                    "double 0.75 pt line at the left, at the right, dotted 1.5 pt #FF0000 line above"));
+}
+
 }  // namespace
 }  // namespace kestrune::forms

@@ -5,6 +5,7 @@
 #include "automation/ResumeNext.h"
 #include "core/bridges/Product.h"
 #include "forms/MsgBox.h"
+#include "settings/ColorChoices.h"
 #include "styles/ColorText.h"
 
 namespace kestrune::settings {
@@ -28,12 +29,10 @@ void for_each(Settings& settings, OnColor&& on_color, OnSwitch&& on_switch) {
 }  // namespace
 
 AutoColorPage::AutoColorPage(forms::Form& form, Draft& draft) : SettingsPage(form, draft) {
-    std::vector<std::string> names;
-    for (const styles::NamedColor& color : styles::named_colors()) names.emplace_back(color.name);
     for_each(
         *draft.settings,
         [&](const std::string& name, std::int32_t) {
-            at("cmb" + name).List(names);
+            offer_colors(at("cmb" + name));
             form.on("cmb" + name, Event::Change, [this, name](auto&) {
                 at("img" + name).Picture(styles::color_patch(styles::color_meant(at("cmb" + name).Text())));
             });

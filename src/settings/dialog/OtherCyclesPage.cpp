@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "automation/Text.h"
+#include "settings/ColorChoices.h"
 #include "styles/ColorText.h"
 
 namespace kestrune::settings {
@@ -85,13 +86,15 @@ void OtherCyclesPage::remove_entry(std::int32_t entry) {
 void OtherCyclesPage::cycle_chosen() {
     const Property& property = *properties[chosen_cycle()];
     at("lblSetting").Caption(std::string(property.label));
-    std::vector<std::string> offered;
     if (has_colors()) {
-        for (const styles::NamedColor& named : styles::named_colors()) offered.emplace_back(named.name);
-    } else if (property.whole) {
-        for (int i = 0; i <= static_cast<int>(property.most); ++i) offered.push_back(std::to_string(i));
+        offer_colors(at("cmbSetting"));
+    } else {
+        std::vector<std::string> offered;
+        for (int i = 0; property.whole && i <= static_cast<int>(property.most); ++i)
+            offered.push_back(std::to_string(i));
+        at("cmbSetting").ItemPictures({});
+        at("cmbSetting").List(std::move(offered));
     }
-    at("cmbSetting").List(std::move(offered));
     at("imgSetting").Visible(has_colors());
 }
 

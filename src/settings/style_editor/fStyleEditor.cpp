@@ -8,6 +8,7 @@
 #include "core/bridges/Product.h"
 #include "forms/MsgBox.h"
 #include "number_format/NumberFormat.h"
+#include "settings/ColorChoices.h"
 #include "settings/StyleEdits.h"
 #include "settings/style_editor/EditedFields.h"
 #include "settings/style_editor/StyleEditorControls.h"
@@ -95,22 +96,8 @@ void fStyleEditor::offer_choices() {
     }
     (*this)["cmbFontName"].List(std::move(fonts));
     (*this)["lstNumberFormats"].List(std::move(formats));
-    for (const auto& [name, patch] : colors) {
-        std::vector<std::string> names;
-        std::vector<std::shared_ptr<const forms::Picture>> patches;
-        const bool is_fill = name == "cmbCellColor";
-        if (is_fill) {
-            names.emplace_back("No fill");
-            patches.push_back(styles::color_patch(std::nullopt));
-        }
-        for (const styles::NamedColor& color : styles::named_colors()) {
-            if (is_fill && color.color == styles::no_fill) continue;
-            names.emplace_back(color.name);
-            patches.push_back(styles::color_patch(color.color));
-        }
-        (*this)[name].List(std::move(names));
-        (*this)[name].ItemPictures(std::move(patches));
-    }
+    for (const char* name : {"cmbFontColor", "cmbBorderColor"}) offer_colors((*this)[name]);
+    offer_fills((*this)["cmbCellColor"]);
 }
 
 void fStyleEditor::handle_events() {

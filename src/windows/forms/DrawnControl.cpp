@@ -55,6 +55,7 @@ void draw_item(const Control& combo, const Scale& scale, const DRAWITEMSTRUCT& i
     patch.right = patch.left + size;
     patch.bottom = patch.top + size;
     const auto& pictures = combo.ItemPictures();
+    if (pictures.empty()) patch.right = item.rcItem.left;
     if (place < pictures.size()) draw(pictures[place].get(), item.hDC, patch, GetSysColor(ground));
     const std::wstring text = to_utf16(combo.List()[place]);
     RECT rest{patch.right + 2 * gap, item.rcItem.top, item.rcItem.right, item.rcItem.bottom};
