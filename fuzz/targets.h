@@ -22,8 +22,13 @@ inline void expect(bool holds, std::string_view promise, std::string_view text, 
     throw Broken(message);
 }
 
+void command_line(std::string_view typed);
 void formula(std::string_view text);
+void package(std::string_view bytes);
 void preferences(std::string_view edits);
+void request(std::string_view lines);
+void sheet(std::string_view text);
+void styles(std::string_view text);
 void vba(std::string_view bytes);
 void xml(std::string_view text);
 
@@ -31,6 +36,14 @@ struct Target {
     std::string_view name;  // also of its folder below fuzz/corpus
     void (*run)(std::string_view input);
 };
-inline constexpr Target targets[] = {{"formula", formula}, {"preferences", preferences}, {"vba", vba}, {"xml", xml}};
+inline constexpr Target targets[] = {{"command_line", command_line},
+                                     {"formula", formula},
+                                     {"package", package},
+                                     {"preferences", preferences},
+                                     {"request", request},
+                                     {"sheet", sheet},
+                                     {"styles", styles},
+                                     {"vba", vba},
+                                     {"xml", xml}};
 
 }  // namespace kestrune::fuzz

@@ -41,6 +41,7 @@ StyleTable StyleTable::defaults() {
     table.borders.append(Border{});
     table.formats.append(CellFormat{});
     table.named_styles.push_back({"Normal", CellFormat{}});
+    table.formats_in_file = table.formats.size();
     return table;
 }
 
@@ -64,7 +65,7 @@ std::uint32_t StyleTable::intern_number_format(std::string_view code) {
         if (!number_formats_.contains(built_in)) return built_in;
     }
     std::uint32_t number = first_custom_number;
-    while (number_formats_.contains(number) || removed_.contains(number)) ++number;
+    while (number_formats_.contains(number) || removed_.contains(number) || reserved_.contains(number)) ++number;
     load_number_format(number, std::move(key));
     return number;
 }

@@ -75,6 +75,15 @@ class StyleTable {
     InternedList<Border> borders;
     InternedList<CellFormat> formats;
     InternedList<DifferentialFormat> differentials;
+    // The formats that came with a file, and how far the numbers go by which its sheets name formats: one that does not
+    // exist shows the first, and must go on to when there are more.
+    std::uint32_t formats_in_file = 0;
+    std::uint32_t named_formats = 0;
+    [[nodiscard]] StyleId format_of_file(std::uint32_t number) {
+        if (number < formats_in_file) return number;
+        named_formats = std::max(named_formats, number + 1);
+        return 0;
+    }
     std::vector<NamedStyle>
         named_styles;  // in the order of cellStyleXfs, so that CellFormat::named_style is its position
 
@@ -86,6 +95,8 @@ class StyleTable {
     [[nodiscard]] const std::string& number_format(std::uint32_t number) const;  // "General" for an unknown one
     std::uint32_t intern_number_format(std::string_view code);  // the built-in or custom number, new from 164 on
     void load_number_format(std::uint32_t number, std::string code);
+    // A number that formats have without a code behind it: no new code gets it, or these formats would change.
+    void reserve_number_format(std::uint32_t number) { reserved_.insert(number); }
     [[nodiscard]] const std::unordered_map<std::uint32_t, std::string>& custom_number_formats() const {
         return number_formats_;
     }
@@ -110,6 +121,7 @@ class StyleTable {
     std::unordered_map<std::uint32_t, std::string> number_formats_;
     std::unordered_map<std::string, std::uint32_t> numbers_by_code_;
     std::set<std::uint32_t> removed_;
+    std::set<std::uint32_t> reserved_;
 };
 
 }  // namespace kestrune::host

@@ -119,10 +119,9 @@ void CellEdits::edit_formula(const XmlElement& element, Position at, const Cell&
 
 void CellEdits::edit_style(const XmlElement& element, StyleId style) {
     const StyleId written = style_number(element);
-    // A number without a format shows the default one. It may stay until a format takes that number.
-    const bool dangling = written >= row_xml_.formats;
-    if (written == style && !dangling) return;
-    if (dangling && style == 0 && written >= formats_.size()) return;
+    // A number without a format shows the default one, and no format takes that number.
+    const StyleId shown = written < row_xml_.formats ? written : 0;
+    if (shown == style) return;
     if (style == 0) {
         edits_.set_attribute(element, "s", std::nullopt);
     } else {

@@ -28,6 +28,7 @@ void RowXml::read(RowFormat& format, std::string_view name, std::string_view val
     if (name == "s") {
         const auto style = parsed<StyleId>(value, 0);
         format.style = style < formats ? style : 0;
+        if (named != nullptr) *named = std::max(*named, style + 1);
     } else if (name == "ht") {
         format.height = parsed<double>(value, -1);
     } else if (name == "customFormat") {

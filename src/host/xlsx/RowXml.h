@@ -11,8 +11,9 @@ namespace kestrune::host {
 
 // What a row's attributes say of its format (ECMA-376 18.3.1.73).
 struct RowXml {
-    double default_height = 15;  // points; a height that says no more than this is not kept
-    std::uint32_t formats = 0;   // how many cell formats there are: numbers beyond mean the first one
+    double default_height = 15;      // points; a height that says no more than this is not kept
+    std::uint32_t formats = 0;       // how many cell formats there are: numbers beyond mean the first one
+    std::uint32_t* named = nullptr;  // raised to where the numbers go that rows name; null where nobody asks
 
     // Takes over one attribute, and after the last one finishes.
     void read(RowFormat& format, std::string_view name, std::string_view value) const;

@@ -58,7 +58,8 @@ class SheetReader : public XmlParser {
   public:
     SheetReader(const Package& from, const std::string& name, std::string_view text, Sheet& sheet)
         : XmlParser(from, name), text_(text), sheet_(sheet), book_(sheet.workbook()) {
-        row_xml_.formats = book_.styles.formats.size();
+        row_xml_.formats = book_.styles.formats_in_file;
+        row_xml_.named = &book_.styles.named_formats;
     }
 
     SheetLayout read() {
@@ -208,7 +209,7 @@ class SheetReader : public XmlParser {
                 column = read_reference(value);
             } else if (name[0] == 's') {
                 const auto style = parsed<StyleId>(value).value_or(0);
-                cell_.style = style < row_xml_.formats ? style : 0;
+                cell_.style = book_.styles.format_of_file(style);
             } else if (name[0] == 't') {
                 const auto type = cell_type(value);
                 if (!type) fail(fmt::format("<c t=\"{}\"> is not a type of cells", value));

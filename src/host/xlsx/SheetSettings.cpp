@@ -82,10 +82,13 @@ void read_standard_sizes(const Reading& reading, const XmlElement& element) {
 }
 
 void read_columns(const Reading& reading, const XmlElement& element) {
-    const auto formats = reading.sheet.workbook().styles.formats.size();
+    StyleTable& styles = reading.sheet.workbook().styles;
     for (auto col = element.first_child(); col; col = col.next()) {
         if (col.local() != "col") continue;
-        const auto run = read_column_run(col, formats);
+        const auto run = read_column_run(col, styles.formats_in_file);
+        const auto named = col.integer("style");
+        if (named > 0 && named < formula::max_rows)
+            static_cast<void>(styles.format_of_file(static_cast<std::uint32_t>(named)));
         if (!run) {
             reading.fail(col, fmt::format("<col min=\"{}\" max=\"{}\"> is outside the sheet", col.value("min"),
                                           col.value("max")));

@@ -20,6 +20,10 @@ struct StylesLayout {
     std::uint32_t formats = 0;
     std::uint32_t differentials = 0;
     std::vector<std::uint32_t> number_formats;  // sorted
+    // How far the numbers go that formats name, whether there are so many or not.
+    std::uint32_t named_fonts = 0;
+    std::uint32_t named_fills = 0;
+    std::uint32_t named_borders = 0;
 };
 
 // Reads styles.xml (ECMA-376 18.8) into a workbook's style table and palette. Every list keeps the positions of the

@@ -36,7 +36,12 @@ void read_number_formats(const XmlElement& list, StyleTable& styles, StylesLayou
 }
 
 // Only the pieces that exist; there is at least one of each.
-CellFormat checked(CellFormat format, const StyleTable& styles) {
+CellFormat checked(CellFormat format, StyleTable& styles, StylesLayout& layout) {
+    layout.named_fonts = std::max(layout.named_fonts, format.font + 1);
+    layout.named_fills = std::max(layout.named_fills, format.fill + 1);
+    layout.named_borders = std::max(layout.named_borders, format.border + 1);
+    if (!styles.custom_number_formats().contains(format.number_format))
+        styles.reserve_number_format(format.number_format);
     if (format.font >= styles.fonts.size()) format.font = 0;
     if (format.fill >= styles.fills.size()) format.fill = 0;
     if (format.border >= styles.borders.size()) format.border = 0;
@@ -45,7 +50,7 @@ CellFormat checked(CellFormat format, const StyleTable& styles) {
 
 void read_named_styles(const XmlElement& root, StyleTable& styles, StylesLayout& layout) {
     layout.named_styles = each(root.child("cellStyleXfs"), "xf", [&](const XmlElement& element) {
-        styles.named_styles.push_back({{}, checked(read_cell_format(element), styles)});
+        styles.named_styles.push_back({{}, checked(read_cell_format(element), styles, layout)});
     });
     each(root.child("cellStyles"), "cellStyle", [&](const XmlElement& element) {
         const auto position = element.integer("xfId", -1);
@@ -91,11 +96,12 @@ StylesLayout read_styles(const Package& package, const std::string& part, Workbo
     read_named_styles(root, styles, layout);
     if (layout.named_styles == 0) styles.named_styles = defaults.named_styles;
     layout.formats = each(root.child("cellXfs"), "xf", [&](const XmlElement& e) {
-        CellFormat format = checked(read_cell_format(e), styles);
+        CellFormat format = checked(read_cell_format(e), styles, layout);
         if (format.named_style >= styles.named_styles.size()) format.named_style = 0;
         styles.formats.append(format);
     });
     if (layout.formats == 0) styles.formats.append(CellFormat());
+    styles.formats_in_file = styles.formats.size();
     layout.differentials = each(root.child("dxfs"), "dxf",
                                 [&](const XmlElement& e) { styles.differentials.append(read_differential(e)); });
     read_palette(root.child("colors"), book);

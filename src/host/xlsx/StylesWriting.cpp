@@ -22,9 +22,9 @@ int styles_order(std::string_view local_name) {
 // What the formats in use are made of.
 struct Pieces {
     Pieces(const StyleTable& styles, const StylesLayout& layout)
-        : fonts(layout.fonts, styles.fonts.size()),
-          fills(layout.fills, styles.fills.size()),
-          borders(layout.borders, styles.borders.size()) {
+        : fonts(layout.fonts, styles.fonts.size(), layout.named_fonts),
+          fills(layout.fills, styles.fills.size(), layout.named_fills),
+          borders(layout.borders, styles.borders.size(), layout.named_borders) {
         // Lists that the file lacks begin with the entries that every file begins with.
         fonts.use(0);
         for (std::uint32_t i = 0; i < StyleTable::defaults().fills.size(); ++i) fills.use(i);
@@ -75,8 +75,9 @@ class StylesWriter {
     template <class List, class Append>
     void extend(std::string_view name, const List& list, const FileNumbers& numbers, Append&& append) {
         std::string entries;
+        for (std::uint32_t i = 0; i < numbers.filling(); ++i) append(entries, root_.prefix(), list[0]);
         for (const auto position : numbers.added()) append(entries, root_.prefix(), list[position]);
-        extend(name, entries, numbers.added().size());
+        extend(name, entries, numbers.filling() + numbers.added().size());
     }
 
     // Those of the numbers that the file does not know.
@@ -207,7 +208,7 @@ class StylesWriter {
 
 bool styles_changed(const Workbook& book, const StylesLayout& layout, const FileNumbers& formats) {
     // A file without formats shows all cells in the default one without having it written down.
-    return formats.size() > std::max<std::uint32_t>(layout.formats, 1) ||
+    return formats.added().size() > (layout.formats == 0 ? 1 : 0) ||
            book.styles.differentials.size() > layout.differentials || book.palette_changed ||
            !book.styles.removed_number_formats().empty();
 }

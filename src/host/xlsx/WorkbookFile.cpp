@@ -114,7 +114,7 @@ void WorkbookFile::update() {
 }
 
 FileNumbers WorkbookFile::formats_in_use() const {
-    FileNumbers formats(styles_.formats, book_.styles.formats.size());
+    FileNumbers formats(styles_.formats, book_.styles.formats.size(), book_.styles.named_formats);
     formats.use(0);  // the default one keeps its number in a file that has none yet
     for (const auto& sheet : book_.sheets()) {
         if (sheet->loaded() && sheet->changed()) use_formats(*sheet, formats);
