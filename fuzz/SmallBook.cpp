@@ -36,7 +36,7 @@ constexpr Part parts[]{
      "<worksheet " MAIN "><sheetData/></worksheet>"},
     {styles_part, SPREADSHEET "styles+xml", RELATIONSHIPS "styles",
      "<styleSheet " MAIN "><fonts count=\"1\"><font><sz val=\"11\"/><name val=\"Calibri\"/></font></fonts><fills "
-                         "count=\"2\"><fill><patternFill "
+     "count=\"2\"><fill><patternFill "
      "patternType=\"none\"/></fill><fill><patternFill patternType=\"gray125\"/></fill></fills><borders "
      "count=\"1\"><border/></borders><cellStyleXfs count=\"1\"><xf/></cellStyleXfs><cellXfs count=\"5\"><xf/><xf "
      "numFmtId=\"1\"/><xf numFmtId=\"2\"/><xf numFmtId=\"14\"/><xf numFmtId=\"49\"/></cellXfs></styleSheet>"},

@@ -11,8 +11,6 @@
 namespace kestrune::host {
 namespace {
 
-constexpr Position nowhere{0, 0};
-
 // Formulas may lose what they refer to, and with it the results that undo shows again.
 bool deletes(const formula::Edit& edit) {
     return edit.kind == formula::Edit::Kind::delete_rows || edit.kind == formula::Edit::Kind::delete_columns;
