@@ -169,6 +169,27 @@ class Hostile(unittest.TestCase):
         outside = '<!DOCTYPE x [<!ENTITY a SYSTEM "file:///etc/hostname">]>'
         self.refused({**parts, SHEET: outside + sheet.replace("<v>1.5</v>", "<v>&a;</v>")}, SHEET)
         self.refused({**parts, "xl/styles.xml": "<a>" * 200_000}, "xl/styles.xml")
+        for kind in ('"array"', '"dataTable" r1="A1"'):
+            whole = sheet.replace("<f>B1*2</f>", f'<f t={kind} ref="A1:XFD1048576">B1*2</f>')
+            self.refused({**parts, SHEET: whole}, "fills more cells than a")
+
+    def test_what_stands_for_two_things_is_refused(self):
+        parts = parts_of(package(["missing_calculation_chain"]))
+        name = "xl/_rels/workbook.xml.rels"
+        self.refused({**parts, name: re.sub(b'rId[0-9]+(?=" Type="[^"]*calcChain)', b"rId1", parts[name])},
+                     'two relationships with the id "rId1"')
+        self.refused({**parts, "xl/workbook.xml": parts["xl/workbook.xml"].replace(b"rId2", b"rId1")},
+                     'xl/worksheets/sheet1.xml: holds the sheet "Two" and another one')
+
+    def test_a_conditional_format_may_name_what_is_not_there(self):
+        parts = parts_of(package([]))
+        rule = ('<conditionalFormatting sqref="A1:XFD1048576"><cfRule type="expression" priority="1" dxfId="9999999"><formula>TRUE'
+                "</formula></cfRule></conditionalFormatting><pageMargins")
+        book = {**parts, SHEET: parts[SHEET].decode().replace("<pageMargins", rule)}
+        self.assertEqual(self.run_on(packed(book))[0], 0)
+        for command in (["diff", self.folder / "book.xlsx", self.folder / "out.xlsx"], ["show", self.folder / "out.xlsx"]):
+            done = subprocess.run([KESTRUNE, *command], capture_output=True, text=True, timeout=SECONDS)
+            self.assertEqual(done.returncode, 0, done.stderr)
 
     def test_paths_that_lead_out_are_refused(self):
         parts = parts_of(package([]))

@@ -55,7 +55,8 @@ std::string condition_facts(host::Sheet& sheet) {
         for (const host::ConditionalRule& rule : format.rules) {
             std::string text = fmt::format("{} {} {} {}", fmt::join(areas, ","), rule.type, rule.operator_name,
                                            fmt::join(rule.formulas, " "));
-            if (rule.differential)
+            // Broken files name formats beyond the end of the list.
+            if (rule.differential && *rule.differential < workbook.styles.differentials.size())
                 text += fmt::format(" ({})", format_text(workbook, workbook.styles.differentials[*rule.differential]));
             if (rule.stop_if_true) text += " and stop";
             rules.emplace_back(rule.priority, std::move(text));

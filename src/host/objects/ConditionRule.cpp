@@ -34,7 +34,9 @@ ConditionalRule& ConditionRule::rule() const {
 
 DifferentialFormat ConditionRule::differential() const {
     const auto& position = rule().differential;
-    return position ? workbook().styles.differentials[*position] : DifferentialFormat{};
+    const auto& all = workbook().styles.differentials;
+    // Broken files name formats beyond the end of the list.
+    return position && *position < all.size() ? all[*position] : DifferentialFormat{};
 }
 
 Position ConditionRule::viewpoint() const {

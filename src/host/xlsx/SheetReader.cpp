@@ -21,6 +21,10 @@
 namespace kestrune::host {
 namespace {
 
+// Of one array formula or data table: sixteen columns from top to bottom, more than anybody's Excel calculates. Files
+// that claim the whole sheet would keep every command busy with its billions of cells.
+constexpr std::int64_t most_results = std::int64_t{1} << 24;
+
 enum class CellType { Number, Shared, Text, Boolean, Error, Inline, Date };
 
 std::optional<CellType> cell_type(std::string_view name) {
@@ -273,6 +277,10 @@ class SheetReader : public XmlParser {
                 others = true;
             }
         }
+        const bool fills = formula_.kind == Formula::Kind::Array || formula_.kind == Formula::Kind::DataTable;
+        if (fills && formula_.reach.cells() > most_results)
+            fail(fmt::format("<f ref=\"{}\"> fills more cells than {} may", formula::area_text(formula_.reach),
+                             formula_.kind == Formula::Kind::Array ? "an array formula" : "a data table"));
         if (!others && formula_.kind != Formula::Kind::DataTable) return;
         const XmlElement element(text_, tag_begin());
         const auto end = element.attributes_end();

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_set>
 
 #include "host/xlsx/SheetLayout.h"
 #include "host/xlsx/XmlCharacters.h"
@@ -36,6 +37,15 @@ DefinedName read_name(const XmlElement& element) {
     name.comment = element.value("comment");
     name.source = element.source();
     return name;
+}
+
+// Of two relationships with one id nobody can tell which is meant: the calculation chain's might be the sheet's.
+void check_ids(const Package& package, const std::string& part, const std::vector<Relationship>& relationships) {
+    std::unordered_set<std::string_view> ids;
+    for (const Relationship& row : relationships) {
+        if (!ids.insert(row.id).second)
+            throw package.error(part, fmt::format("has two relationships with the id \"{}\"", row.id));
+    }
 }
 
 SheetKind kind_of(const Relationship& relationship) {
@@ -133,7 +143,9 @@ std::vector<std::string> read_workbook_part(const Package& package, Workbook& bo
         book.structure_protected = protection.flag("lockStructure");
 
     const auto relationships = package.relationships(part);
+    check_ids(package, part, relationships);
     std::vector<std::string> parts;
+    std::unordered_set<std::string> taken;
     const auto sheets = root.child("sheets");
     for (auto element = sheets ? sheets.first_child() : XmlElement(); element; element = element.next()) {
         if (element.local() != "sheet") continue;
@@ -147,6 +159,9 @@ std::vector<std::string> read_workbook_part(const Package& package, Workbook& bo
                                 place.column);
         if (!package.has(found->target))
             throw package.error(found->target, fmt::format("holds the sheet \"{}\", and it is missing", name));
+        // What is written for one of them would be lost with the other.
+        if (!taken.insert(found->target).second)
+            throw package.error(found->target, fmt::format("holds the sheet \"{}\" and another one", name));
         if (book.sheet(name) != nullptr)
             throw package.error(part, fmt::format("has two sheets named \"{}\"", name), place.line, place.column);
         book.add_sheet(name, kind_of(*found)).visibility = visibility_of(element.value("state"));
