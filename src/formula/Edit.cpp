@@ -1,5 +1,7 @@
 #include "formula/Edit.h"
 
+#include <unordered_map>
+
 #include "formula/A1.h"
 #include "formula/Characters.h"
 #include "formula/Rewrite.h"
@@ -189,10 +191,13 @@ std::string adjust_rule_for_edit(std::string_view formula, std::string_view own_
             }
         }
     }
+    // Sheets that were copied about for years have rules with thousands of areas.
+    std::unordered_map<std::string_view, std::size_t> counts;
+    for (const std::string& vote : votes) ++counts[vote];
     const std::string* best = nullptr;
-    std::ptrdiff_t most = 0;
+    std::size_t most = 0;
     for (const std::string& vote : votes) {
-        const auto same = std::count(votes.begin(), votes.end(), vote);
+        const std::size_t same = counts[vote];
         if (same <= most) continue;
         most = same;
         best = &vote;

@@ -181,6 +181,14 @@ class Hostile(unittest.TestCase):
         self.refused({**parts, "xl/workbook.xml": parts["xl/workbook.xml"].replace(b"rId2", b"rId1")},
                      'xl/worksheets/sheet1.xml: holds the sheet "Two" and another one')
 
+    def test_many_small_things_take_no_time(self):
+        parts = parts_of(package([]))
+        areas = " ".join(f"A{row}" for row in range(1, 80_001, 2))
+        rule = (f'<conditionalFormatting sqref="{areas}"><cfRule type="expression" priority="1" dxfId="0"><formula>A1>B1</formula></cfRule>'
+                "</conditionalFormatting><pageMargins")
+        status, told = self.run_on(packed({**parts, SHEET: parts[SHEET].decode().replace("<pageMargins", rule)}))
+        self.assertEqual(status, 0, told)
+
     def test_a_conditional_format_may_name_what_is_not_there(self):
         parts = parts_of(package([]))
         rule = ('<conditionalFormatting sqref="A1:XFD1048576"><cfRule type="expression" priority="1" dxfId="9999999"><formula>TRUE'
