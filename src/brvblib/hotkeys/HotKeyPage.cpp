@@ -12,7 +12,7 @@ constexpr std::string_view head = R"(<!DOCTYPE html>
 <html lang="en"><head><meta charset="utf-8"><title>Hot keys</title><style>
 body{font:10pt Calibri,Carlito,sans-serif;margin:2em;columns:2;column-gap:2em}
 h1{font-size:15pt;margin:0 0 .5em;column-span:all}h2{font-size:11pt;margin:1em 0 .2em}
-table{border-collapse:collapse;width:100%;break-inside:avoid}td{border-bottom:1px solid #ccc;padding:.15em .3em}
+section{break-inside:avoid}table{border-collapse:collapse;width:100%}td{border-bottom:1px solid #ccc;padding:.15em .3em}
 td:first-child{white-space:nowrap;width:9em}
 </style></head><body>
 <h1>Hot keys</h1>
@@ -26,14 +26,14 @@ std::string hot_key_page(const std::vector<HotKeyRow>& rows) {
     for (const HotKeyRow& row : rows) {
         if (!row.key) continue;
         if (!group || *group != row.command.group) {
-            if (group) page += "</table>\n";
+            if (group) page += "</table></section>\n";
             group = &row.command.group;
-            page += fmt::format("<h2>{}</h2>\n<table>\n", xml_content(*group));
+            page += fmt::format("<section><h2>{}</h2>\n<table>\n", xml_content(*group));
         }
         page += fmt::format("<tr><td>{}</td><td>{}</td></tr>\n", xml_content(keys::key_text(*row.key)),
                             xml_content(row.command.name));
     }
-    if (group) page += "</table>\n";
+    if (group) page += "</table></section>\n";
     return page + "</body></html>\n";
 }
 
