@@ -28,6 +28,7 @@ bool refused(Reading&& reading, std::string_view typed) {
 // What a person types is a step, or a setting, or is refused with a reason; a way through the menus comes back as
 // typed.
 void command_line(std::string_view typed) {
+    if (typed.find('\0') != std::string_view::npos) return;  // no shell passes it
     refused(
         [&] {
             const cli::Step step = cli::parse_step(typed);

@@ -20,7 +20,7 @@ MenuPath parse_menu_path(std::string_view text) {
             path.emplace_back();
         }
     }
-    for (std::string& part : path) part = automation::one_line(part);
+    for (std::string& part : path) part = automation::trimmed(automation::one_line(part, part.size()));
     if (std::ranges::find(path, "") != path.end()) {
         throw UsageError(
             fmt::format("{}: is no way through the menus; it has captions or numbers with '/' between, as in "

@@ -32,7 +32,7 @@ bool names_own_table(std::string_view text, formula::Notation notation) {
 // The element of an array for a place in the range, counted from 0; null where there is none.
 class Elements {
   public:
-    explicit Elements(const Array& array) : array_(array) {
+    explicit Elements(const Array& array) {
         const bool flat = array.dimensions() == 1;
         rows_ = flat ? 1 : array.bound(0).count;
         columns_ = array.bound(flat ? 0 : 1).count;
@@ -49,7 +49,6 @@ class Elements {
     }
 
   private:
-    const Array& array_;
     std::int32_t rows_ = 0;
     std::int32_t columns_ = 0;
 };
