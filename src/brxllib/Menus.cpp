@@ -1,21 +1,10 @@
 #include "brxllib/Menus.h"
 
-#include "automation/Text.h"
+#include "automation/Caption.h"
 #include "excel/Constants.h"
 
 namespace kestrune::brxllib {
 namespace {
-
-// Captions with their "&" and case told apart no more.
-std::string plain(std::string_view caption) {
-    std::string text;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && (i + 1 == caption.size() || caption[i + 1] != '&')) continue;
-        if (caption[i] == '&') ++i;
-        text += automation::lower(caption[i]);
-    }
-    return text;
-}
 
 // Most properties of a new control are right as they are; each one written is a call.
 void dress(const excel::CommandBarControl& control, const ControlDesign& design) {
@@ -57,13 +46,11 @@ std::int32_t remove_if(const excel::CommandBarControls& controls, Wanted&& wante
 
 }  // namespace
 
-bool same_caption(std::string_view caption, std::string_view text) { return plain(caption) == plain(text); }
-
 excel::CommandBarControl find_control(const excel::CommandBarControls& controls, std::string_view caption) {
     const std::int32_t count = controls.Count();
     for (std::int32_t i = 1; i <= count; ++i) {
         const excel::CommandBarControl control = controls.Item(i);
-        if (same_caption(control.Caption(), caption)) return control;
+        if (automation::same_caption(control.Caption(), caption)) return control;
     }
     return {};
 }
@@ -82,7 +69,7 @@ std::int32_t clear_controls(const excel::CommandBarControls& controls) {
 
 std::int32_t remove_controls(const excel::CommandBarControls& controls, std::string_view caption) {
     return remove_if(controls, [&](const excel::CommandBarControl& control) {
-        return same_caption(control.Caption(), caption) && !control.BuiltIn();
+        return automation::same_caption(control.Caption(), caption) && !control.BuiltIn();
     });
 }
 

@@ -11,9 +11,6 @@
 
 namespace kestrune::brxllib {
 
-// Whether a control's caption is the text, "&" and case apart: "Kestrun&e" is "&Kestrune". "&&" stands for a "&".
-[[nodiscard]] bool same_caption(std::string_view caption, std::string_view text);
-
 // The first control with a caption on a bar or a popup itself, not in popups on it; Nothing when there is none.
 [[nodiscard]] excel::CommandBarControl find_control(const excel::CommandBarControls& controls,
                                                     std::string_view caption);

@@ -6,6 +6,7 @@
 #include <charconv>
 #include <string_view>
 
+#include "automation/Caption.h"
 #include "brvblib/CommandTexts.h"
 
 namespace kestrune::companion {
@@ -35,16 +36,6 @@ std::string escaped(std::string_view text) {
             default:
                 out += c;
         }
-    }
-    return out;
-}
-
-// A menu's caption without the mark of its access key; the ribbon has keys of its own.
-std::string plain(std::string_view caption) {
-    std::string out;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&') ++i;
-        if (i < caption.size()) out += caption[i];
     }
     return out;
 }
@@ -83,14 +74,16 @@ class Tab {
         const MenuRow& row = rows_[at_++];
         if (row.level > 1 && row.line) out_ += fmt::format("<menuSeparator id=\"Kestrune.Line{}\"/>\n", at_);
         if (row.kind != MenuRow::Kind::Popup) return add_button(row);
-        out_ += fmt::format("<menu id=\"Kestrune.Menu{}\" label=\"{}\">\n", at_, escaped(plain(row.caption)));
+        out_ += fmt::format("<menu id=\"Kestrune.Menu{}\" label=\"{}\">\n", at_,
+                            escaped(automation::plain_caption(row.caption)));
         while (at_ < rows_.size() && rows_[at_].level > row.level) add_control();
         out_ += "</menu>\n";
     }
 
     void add_button(const MenuRow& row) {
         const brvblib::CommandText* command = command_of(row.request);
-        const std::string label = row.caption.empty() && command ? std::string(command->name) : plain(row.caption);
+        const std::string label =
+            row.caption.empty() && command ? std::string(command->name) : automation::plain_caption(row.caption);
         out_ +=
             fmt::format("<button id=\"Kestrune.Button{}\" label=\"{}\" tag=\"{}\" onAction=\"mDOM.RunRibbonButton\"",
                         at_, escaped(label), row.request.empty() ? row.member : row.request);

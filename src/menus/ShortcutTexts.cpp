@@ -26,13 +26,4 @@ bool has_key(const MenuRow& row) {
            row.member == "BRRedo";
 }
 
-std::string plain_caption(std::string_view caption) {
-    std::string text;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && ++i == caption.size()) break;
-        text += caption[i];
-    }
-    return text;
-}
-
 }  // namespace kestrune::menus

@@ -27,7 +27,4 @@ class ShortcutTexts {
 // Whether a key can be given to what a row does.
 bool has_key(const MenuRow& row);
 
-// A caption without the marks of access keys: "R&D" for "&R&&D".
-std::string plain_caption(std::string_view caption);
-
 }  // namespace kestrune::menus

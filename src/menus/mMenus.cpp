@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "automation/Caption.h"
 #include "automation/ResumeNext.h"
 #include "excel/Application.h"
 #include "excel/CommandBarButton.h"
@@ -127,8 +128,8 @@ void build(const SharedState& shared, const ObjectRef& parent, std::span<const M
         if (row.kind == MenuRow::Kind::Popup || row.request.find('.') != std::string_view::npos) continue;
         if (!has_key(row)) continue;
         attempt([&] {
-            shared.spreadsheet().set_control_tooltip(control,
-                                                     plain_caption(captions[i]) + ".  " + shortcuts.text(key_of(row)));
+            shared.spreadsheet().set_control_tooltip(
+                control, automation::plain_caption(captions[i]) + ".  " + shortcuts.text(key_of(row)));
         });
     }
 }

@@ -1,5 +1,6 @@
 #include <set>
 
+#include "automation/Caption.h"
 #include "brvblib/CommandTexts.h"
 #include "core/iGlobal.h"
 #include "excel/CommandBarButton.h"
@@ -7,7 +8,6 @@
 #include "menus/Captions.h"
 #include "menus/LessonTree.h"
 #include "menus/MenuTable.h"
-#include "menus/ShortcutTexts.h"
 #include "settings/cUserSettings.h"
 #include "styles/AddInInHost.h"
 
@@ -91,7 +91,8 @@ TEST_F(MenusTest, EveryCommandStandsOnTheMenuOnceUnderItsOwnName) {
         if (row.request.empty()) continue;
         requests.emplace(row.request);
         if (row.kind == MenuRow::Kind::Cycle || row.request.starts_with("99.")) continue;
-        EXPECT_EQ(plain_caption(row.caption), brvblib::command_texts[std::stoul(std::string(row.request))].name);
+        EXPECT_EQ(automation::plain_caption(row.caption),
+                  brvblib::command_texts[std::stoul(std::string(row.request))].name);
     }
     for (std::int32_t number = 0; number <= 102; ++number) {
         if (number == 99) continue;
@@ -177,6 +178,9 @@ TEST_F(MenusTest, PopupsShowTheStepsOfTheSettings) {
     const auto filled = at({"Kestrune", "Format", "My SmartCycles", "R&&D"});
     EXPECT_THAT(captions(controls(filled)), ElementsAre(state->settings().Styles->Item(3)->FriendlyName));
     EXPECT_TRUE(filled.Enabled());
+    const auto plain = controls(filled).Add(excel::msoControlButton, automation::Missing{}, true);
+    plain.Caption("&Profit && Loss");
+    EXPECT_EQ(text(plain, "TooltipText"), "Profit & Loss");
     // The toolbar has the same popup, filled by the same opening.
     const auto on_toolbar = application.CommandBars().FindControl("Kestrune.Toolbar.20");
     EXPECT_EQ(controls(on_toolbar).Count(), 0);

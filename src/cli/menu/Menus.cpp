@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <charconv>
 
-#include "automation/Text.h"
+#include "automation/Caption.h"
 #include "cli/Failure.h"
 #include "cli/menu/Nearest.h"
 
@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view menu_bar_name = "Worksheet Menu Bar";
 
-std::string shown_caption(std::string_view caption) { return automation::one_line(host::plain_caption(caption)); }
+std::string shown_caption(std::string_view caption) { return automation::one_line(automation::plain_caption(caption)); }
 
 MenuEntry entry_of(const std::shared_ptr<host::BarControl>& control) {
     return {shown_caption(control->caption), control, control->popup};
@@ -27,7 +27,7 @@ std::string_view without_dots(std::string_view caption) {
 
 bool is_called(const MenuEntry& entry, std::string_view part) {
     return automation::same_text(entry.caption, part) ||
-           host::same_caption(without_dots(entry.caption), without_dots(part));
+           automation::same_caption(without_dots(entry.caption), without_dots(part));
 }
 
 const MenuEntry* find_in(const std::vector<MenuEntry>& entries, const std::string& part) {

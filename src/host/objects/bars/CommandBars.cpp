@@ -2,8 +2,6 @@
 
 #include <array>
 
-#include "automation/Text.h"
-
 namespace kestrune::host {
 namespace {
 
@@ -75,20 +73,6 @@ void discard(CommandBar& bar) {
         control->bar.reset();
         if (control->popup) discard(*control->popup);
     }
-}
-
-std::string plain_caption(std::string_view caption) {
-    std::string text;
-    for (std::size_t i = 0; i < caption.size(); ++i) {
-        if (caption[i] == '&' && (i + 1 == caption.size() || caption[i + 1] != '&')) continue;
-        if (caption[i] == '&') ++i;
-        text += caption[i];
-    }
-    return text;
-}
-
-bool same_caption(std::string_view caption, std::string_view text) {
-    return automation::same_text(plain_caption(caption), plain_caption(text));
 }
 
 }  // namespace kestrune::host

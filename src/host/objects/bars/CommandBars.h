@@ -62,10 +62,4 @@ struct CommandBars {
 // Marks a deleted bar and cuts its controls off, and so with the popups on it.
 void discard(CommandBar& bar);
 
-// A caption as it shows, without the marks of access keys: "R&D" for "&R&&D".
-std::string plain_caption(std::string_view caption);
-
-// Whether a caption is the text, "&" and case apart: "&File" is "File". "&&" stands for a "&".
-bool same_caption(std::string_view caption, std::string_view text);
-
 }  // namespace kestrune::host

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "automation/Caption.h"
 #include "host/objects/bars/Click.h"
 #include "host/objects/bars/CommandBarObject.h"
 #include "host/objects/bars/ControlsObject.h"
@@ -24,10 +25,7 @@ std::int32_t ControlObject<Derived>::index() const {
 template <class Derived>
 std::string ControlObject<Derived>::tooltip() const {
     const BarControl& control = get("TooltipText");
-    if (!control.tooltip.empty()) return control.tooltip;
-    std::string text = control.caption;
-    std::erase(text, '&');
-    return text;
+    return control.tooltip.empty() ? automation::plain_caption(control.caption) : control.tooltip;
 }
 
 template <class Derived>

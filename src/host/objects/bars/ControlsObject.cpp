@@ -1,5 +1,6 @@
 #include "host/objects/bars/ControlsObject.h"
 
+#include "automation/Caption.h"
 #include "host/objects/Items.h"
 #include "host/objects/Optional.h"
 #include "host/objects/bars/CommandBarObject.h"
@@ -14,7 +15,7 @@ ObjectRef ControlsObject::item(const Value& index) const {
     constexpr std::string_view member = "CommandBarControls.Item";
     if (const auto* caption = index.if_is<std::string>()) {
         for (const auto& control : bar_->controls) {
-            if (same_caption(control->caption, *caption)) return control_object(session(), control);
+            if (automation::same_caption(control->caption, *caption)) return control_object(session(), control);
         }
         refuse_argument(member, "there is no control '" + *caption + "'");
     }
