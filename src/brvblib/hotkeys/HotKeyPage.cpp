@@ -11,8 +11,8 @@ namespace {
 constexpr std::string_view head = R"(<!DOCTYPE html>
 <html lang="en"><head><meta charset="utf-8"><title>Hot keys</title><style>
 body{font:10pt Calibri,Carlito,sans-serif;margin:2em;columns:2;column-gap:2em}
-h1{font-size:15pt;margin:0 0 .5em;column-span:all}h2{font-size:11pt;margin:1em 0 .2em}
-section{break-inside:avoid}table{border-collapse:collapse;width:100%}td{border-bottom:1px solid #ccc;padding:.15em .3em}
+h1{font-size:15pt;margin:0 0 .5em;column-span:all}h2{font-size:11pt;margin:0 0 .2em}
+section{break-inside:avoid;margin-bottom:1em}table{border-collapse:collapse;width:100%}td{border-bottom:1px solid #ccc;padding:.15em .3em}
 td:first-child{white-space:nowrap;width:9em}
 </style></head><body>
 <h1>Hot keys</h1>
