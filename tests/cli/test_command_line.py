@@ -49,6 +49,13 @@ class CommandLineTest(unittest.TestCase):
         self.assertEqual(result.returncode, 0, result.stderr)
         return result
 
+    def refused(self, status, needle, *arguments):
+        result = kestrune(*arguments)
+        self.assertEqual(result.returncode, status, f"{arguments}: {result.stdout}{result.stderr}")
+        lines = result.stderr.strip().splitlines()
+        self.assertEqual(len(lines), 1, f"{arguments}: {result.stderr}")
+        self.assertIn(needle, lines[0])
+
     def cells(self, path, *references):
         return json.loads(self.run_ok("cell", path, *references, "--json").stdout)
 
@@ -326,6 +333,44 @@ class Menus(CommandLineTest):
         self.assertRegex(page, r"(?m)^ +Color 1 +46\.1 +\[#0000FF\]$")
         self.assertRegex(page, r"(?m)^  Undo +BRUndo +\[greyed\]$")
         self.assertRegex(page, r"(?m)^ +Ours +Ctrl\+Shift\+F$")
+        # What fills its column does not touch the next.
+        self.assertRegex(page, r"(?m)^ +Right Border +Ctrl\+Alt\+Shift\+Right +83$")
+
+    def test_the_menus_follow_what_dialogs_and_clicks_decide(self):
+        def show(dialog, *fills, answer="ok", then=()):
+            sets = [part for fill in fills for part in ("--set", fill)]
+            return ("run", self.book, "--answer", answer, *sets, "CreateBRMenus", dialog, *then, "--json")
+
+        # Each within the session of the dialog, and in the next one.
+        hide, unhide = "fUserSettings.ckbTrainingModule=False", "fUserSettings.ckbTrainingModule=True"
+        self.run_ok(*show("ShowUserSettings", hide, answer="cancel", then=["menu:BR Tutorial/1"]))
+        self.refused(1, "no 'BR Tutorial'", *show("ShowUserSettings", hide, then=["menu:BR Tutorial/1"]))
+        self.assertNotIn("BR Tutorial", [root["caption"] for root in self.tree()])
+        self.run_ok(*show("ShowUserSettings", unhide, then=["menu:BR Tutorial/1"]))
+        self.assertEqual([root["caption"] for root in self.tree()].count("BR Tutorial"), 1)
+
+        cycle = ["fUserSettings.tabSettings=Style Cycles", "fUserSettings.lstStyleToggles=Percent SmartCycle",
+                 "fUserSettings.txtStyleToggleName=P&L SmartCycle", "fUserSettings.lstToggleStyles=BR Percent One Decimal",
+                 "fUserSettings.btnStyleUp=click"]
+        self.refused(1, "no 'P&L' on Kestrune/Format",
+                     *show("ShowUserSettings", *cycle, answer="cancel", then=["menu:Kestrune/Format/P&L/1"]))
+        first = self.run_ok(*show("ShowUserSettings", *cycle, then=["menu:Kestrune/Format/P&L/1"]))
+        self.assertEqual(json.loads(first.stdout)[2]["clicked"], "Kestrune/Format/P&L/BR Percent One Decimal")
+        (renamed,) = self.tree("Kestrune/Format/P&L")
+        self.assertEqual((renamed["tooltip"], renamed["items"][1]["caption"]),
+                         ("P&L.  Shortcut: Ctrl+Shift+5", "BR Percent No Decimals"))
+
+        key = ["fHotKeyManager.lstCommands=Percent SmartCycle", "fHotKeyManager.txtKey=ctrl-alt-f9"]
+        self.run_ok(*show("ShowHotKeyManager", *key))
+        self.assertEqual(self.tree("Kestrune/Format/P&L")[0]["key"], "Ctrl+Alt+F9")
+        copied = self.run_ok(*show("ShowHotKeyManager", "fHotKeyManager.txtSearch=percent smart",
+                                   "fHotKeyManager.btnCopy=click"))
+        self.assertIn("Percent SmartCycle\tCtrl+Alt+F9\t", copied.stderr)
+
+        for shown in (False, True):
+            self.run_ok("run", self.book, "menu:Kestrune/Show Toolbar")
+            self.assertEqual(self.tree("Kestrune (toolbar)")[0]["visible"], shown)
+            self.assertEqual(self.tree("Kestrune/Show Toolbar")[0]["checked"], shown)
 
     def test_a_click_runs_the_command(self):
         out, same = self.folder / "out.xlsx", self.folder / "same.xlsx"
@@ -339,18 +384,14 @@ class Menus(CommandLineTest):
         self.assertEqual(json.loads(self.run_ok("diff", out, self.book, "--json").stdout), [])
         self.run_ok("run", self.book, "-o", out, "@Inputs", "menu:Kestrune (toolbar)/Percent/2", "--json")
         self.assertEqual(openpyxl.load_workbook(out)["Model"]["C3"].number_format, "0.0%_);(0.0%)")
+        self.refused(1, "no 'Kestrune' on the menu bar, which has no items", "run", self.book, "DeleteBRMenus",
+                     "menu:Kestrune/Format/Currency/3")
+        self.run_ok("run", self.book, "DeleteBRMenus", "CreateBRMenus", "menu:Kestrune/View/Zoom In")
         lesson = json.loads(self.run_ok("run", self.book, "menu:BR Tutorial/2/1/1", "--json").stdout)
         self.assertIn("lesson", lesson[0]["messages"][0]["text"])
 
 
 class Refusing(CommandLineTest):
-    def refused(self, status, needle, *arguments):
-        result = kestrune(*arguments)
-        self.assertEqual(result.returncode, status, f"{arguments}: {result.stdout}{result.stderr}")
-        lines = result.stderr.strip().splitlines()
-        self.assertEqual(len(lines), 1, f"{arguments}: {result.stderr}")
-        self.assertIn(needle, lines[0])
-
     def test_wrong_usage(self):
         for needle, *arguments in [
             ("subcommand", ),

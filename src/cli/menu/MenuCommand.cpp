@@ -34,7 +34,8 @@ std::string notes_of(const MenuEntry& entry) {
 }
 
 void print_tree(const Menus& menus, const MenuEntry& entry, int level) {
-    std::string line = fmt::format("{:<52}{:<20}{:<28}{}", fmt::format("{:{}}{}", "", 2 * level, entry.caption),
+    // Two blanks part what is wider than its column from the next.
+    std::string line = fmt::format("{:<50}  {:<20}  {:<26}  {}", fmt::format("{:{}}{}", "", 2 * level, entry.caption),
                                    entry.key(), entry.runs(), notes_of(entry));
     line.resize(line.find_last_not_of(' ') + 1);
     fmt::print("{}\n", line);
@@ -82,7 +83,8 @@ void show_menus(const MenuOptions& options) {
     automation::Trace trace;
     AddIn add_in(book.application(), book.macros(), presenter, trace, &book.formats(), options.prefs);
     if (!options.settings.empty()) add_in.set_options(options.settings);
-    const Menus menus(book, add_in);
+    const Menus menus(book);
+    menus.make(add_in);
     std::vector<MenuEntry> entries = menus.roots();
     if (options.path) {
         Menus::Found found = menus.find(path);

@@ -76,7 +76,7 @@ std::optional<std::int32_t> MenuEntry::swatch() const {
     return color ? std::optional(*color) : std::nullopt;
 }
 
-Menus::Menus(OpenWorkbook& book, AddIn& add_in) : book_(book) {
+void Menus::make(AddIn& add_in) const {
     if (roots().empty()) automation::call(add_in.commands(), "CreateBRMenus");
 }
 

@@ -29,8 +29,11 @@ struct MenuEntry {
 // The product's menus and toolbar in the embedded Excel, as a person finds them.
 class Menus {
   public:
-    // Builds them when they are not there yet. What it is given outlives it.
-    Menus(OpenWorkbook& book, AddIn& add_in);
+    // What it is given outlives it.
+    explicit Menus(OpenWorkbook& book) : book_(book) {}
+
+    // Builds them when they are not there, as the companion workbook does at the start.
+    void make(AddIn& add_in) const;
 
     // The menus that add-ins put on the menu bar, from left to right, and the toolbars.
     [[nodiscard]] std::vector<MenuEntry> roots() const;

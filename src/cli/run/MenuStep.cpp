@@ -18,8 +18,8 @@ Menus::Found find(const Menus& menus, const MenuPath& path) {
 
 }  // namespace
 
-MenuReport run_menu_step(OpenWorkbook& book, AddIn& add_in, const MenuPath& path) {
-    const Menus menus(book, add_in);
+MenuReport run_menu_step(OpenWorkbook& book, const MenuPath& path) {
+    const Menus menus(book);
     const auto [entry, way] = find(menus, path);
     MenuReport report{menu_path_text(way), entry.runs(), true};
     const auto refuse = [&](std::string_view why) { throw Failure(fmt::format("menu:{}: {}", report.clicked, why)); };

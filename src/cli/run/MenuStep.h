@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "cli/AddIn.h"
 #include "cli/OpenWorkbook.h"
 #include "cli/menu/MenuPath.h"
 
@@ -17,6 +16,6 @@ struct MenuReport {
 
 // Clicks what stands at the end of a way through the product's menus. Failure, naming the way, when there is nothing,
 // when it is greyed out, and for a menu, which a click only opens.
-MenuReport run_menu_step(OpenWorkbook& book, AddIn& add_in, const MenuPath& path);
+MenuReport run_menu_step(OpenWorkbook& book, const MenuPath& path);
 
 }  // namespace kestrune::cli

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <utility>
 
 #include "automation/Conversion.h"
 #include "automation/Text.h"
@@ -16,6 +17,7 @@
 #include "cli/Failure.h"
 #include "cli/MessageLine.h"
 #include "cli/OpenWorkbook.h"
+#include "cli/menu/Menus.h"
 #include "cli/prefs/SettingsSession.h"
 #include "cli/run/FillOption.h"
 #include "cli/run/FormReport.h"
@@ -194,6 +196,7 @@ class Session {
             ran = automation::to_boolean(automation::call(add_in.commands(), "RunMacro", {request->request}));
             if (!ran) what += ": a command may not run now";
         } else if (const auto* member = std::get_if<MemberStep>(&step)) {
+            if (member->member == "DeleteBRMenus") make_menus(book, add_in);
             automation::call(add_in.commands(), member->member);
             what = member->member;
         } else if (const auto* undo_or_redo = std::get_if<HistoryStep>(&step)) {
@@ -205,7 +208,8 @@ class Session {
             what = key->did;
             ran = key->ran;
         } else if (const auto* clicked = std::get_if<MenuStep>(&step)) {
-            menu = run_menu_step(book, add_in, clicked->path);
+            make_menus(book, add_in);
+            menu = run_menu_step(book, clicked->path);
             what = fmt::format("{}: {}{}", menu->clicked, menu->runs, menu->ran ? "" : ": a command may not run now");
             ran = menu->ran;
         }
@@ -231,6 +235,12 @@ class Session {
         tell(text, what, cost);
         for (const std::string& line : history.lines) fmt::print("             {}\n", line);
         return {};
+    }
+
+    // They cost more than most steps: the first one that is about them has them made. What a step then takes away stays
+    // away.
+    void make_menus(OpenWorkbook& book, AddIn& add_in) {
+        if (!std::exchange(menus_made_, true)) Menus(book).make(add_in);
     }
 
     void skipped(std::string_view line) {
@@ -286,6 +296,7 @@ class Session {
     ordered_json form_facts_;
     std::vector<std::string> refusals_;  // of the step that runs
     bool moved_ = false;                 // a command went to another sheet
+    bool menus_made_ = false;
 };
 
 }  // namespace
