@@ -40,7 +40,7 @@ TEST(UndoHistories, FindWhatIsNotGivenBack) {
         {"Border", "LineStyle"},   {"Range", "RowHeight"},
         {"Range", "Hidden"},       {"FormatConditions", "Add"},
         {"Range", "FormulaArray"}, {"Interior", "Pattern"},
-        {"Range", "Merge"},        {"Range", "ColumnWidth"},
+        {"Range", "MergeCells"},   {"Range", "ColumnWidth"},
         {"Range", "OutlineLevel"}, {"Range", "Insert"},
         {"Range", "Delete"},       {"Names", "Add"},
     };

@@ -10,13 +10,17 @@
 
 namespace kestrune::host {
 
-std::vector<const Hyperlink*> HyperlinksObject::list() const {
-    std::vector<const Hyperlink*> found;
-    for (const Hyperlink& link : sheet_.hyperlinks()) {
+const std::vector<const Hyperlink*>& HyperlinksObject::list() const {
+    const auto& links = sheet_.hyperlinks();
+    const Seen now{links.data(), links.size(), sheet_.workbook().edits().size()};
+    if (seen_ == now) return list_;
+    seen_ = now;
+    list_.clear();
+    for (const Hyperlink& link : links) {
         const auto touches = [&](const Area& area) { return area.intersection(link.area).has_value(); };
-        if (!cells_ || std::ranges::any_of(cells_->areas(), touches)) found.push_back(&link);
+        if (!cells_ || std::ranges::any_of(cells_->areas(), touches)) list_.push_back(&link);
     }
-    return found;
+    return list_;
 }
 
 ObjectRef HyperlinksObject::parent() const {
@@ -25,7 +29,7 @@ ObjectRef HyperlinksObject::parent() const {
 }
 
 ObjectRef HyperlinksObject::item(std::int32_t index) const {
-    const auto links = list();
+    const auto& links = list();
     if (index < 1 || index > static_cast<std::int32_t>(links.size())) {
         refuse_index("Hyperlinks.Item", "there is no such hyperlink");
     }

@@ -24,10 +24,20 @@ class HyperlinksObject final : public HostObject<HyperlinksObject> {
     [[nodiscard]] ObjectRef new_enum() const;
 
   private:
-    [[nodiscard]] std::vector<const Hyperlink*> list() const;
+    // What the list was made of: links come, go and move with these.
+    struct Seen {
+        const Hyperlink* links = nullptr;
+        std::size_t count = 0;
+        std::size_t edits = 0;
+        bool operator==(const Seen&) const = default;
+    };
+    [[nodiscard]] const std::vector<const Hyperlink*>& list() const;
 
     Sheet& sheet_;
     std::optional<CellRange> cells_;
+    // Clients go through by number: the list is kept, or each number would cost all links.
+    mutable Seen seen_{nullptr, static_cast<std::size_t>(-1), 0};
+    mutable std::vector<const Hyperlink*> list_;
 };
 
 }  // namespace kestrune::host
