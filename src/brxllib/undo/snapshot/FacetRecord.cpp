@@ -59,6 +59,9 @@ FacetRecord FacetRecord::take(std::span<const Facet> facets, const excel::Worksh
                 if (parts.empty() || parts.back().of_columns != piece.of_columns ||
                     parts.back().of_rows != piece.of_rows) {
                     parts.push_back({&facet, piece.of_columns, piece.of_rows});
+                    const Place place = facet.place;
+                    parts.back().partition = Partition(place != Place::LeftEdge && place != Place::RightEdge,
+                                                       place != Place::TopEdge && place != Place::BottomEdge);
                 }
                 const auto area = place_in(facet.place, piece.cells);
                 if (!area) continue;

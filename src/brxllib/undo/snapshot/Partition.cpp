@@ -10,7 +10,7 @@ using formula::Area;
 void Partition::add(const Area& area, const Reading& reading, Budget& budget) {
     const std::uint32_t place = place_of(reading, budget);
     // Areas come neighbour by neighbour, so that most of the joining can be done at once.
-    if (!parts_.empty()) {
+    if (in_columns_ && !parts_.empty()) {
         Part& last = parts_.back();
         if (last.reading == place && last.area.first_column == area.first_column &&
             last.area.last_column == area.last_column && last.area.last_row + 1 == area.first_row) {
@@ -57,8 +57,8 @@ void Partition::join(bool across) {
 }
 
 void Partition::finish() {
-    join(true);
-    join(false);
+    if (in_rows_) join(true);
+    if (in_columns_) join(false);
     parts_.shrink_to_fit();
 }
 

@@ -15,6 +15,10 @@ namespace kestrune::brxllib::undo {
 // gives the same partition.
 class Partition {
   public:
+    // Which neighbours may be joined: those in a row, those in a column. Left edges of two neighbours in a row, say,
+    // are no edge of both together.
+    explicit Partition(bool in_rows = true, bool in_columns = true) : in_rows_(in_rows), in_columns_(in_columns) {}
+
     // Adds a rectangle; what the record holds more by it comes out of the budget.
     void add(const formula::Area& area, const Reading& reading, Budget& budget);
     // When all are added: joins neighbours that are alike.
@@ -38,6 +42,8 @@ class Partition {
     std::uint32_t place_of(const Reading& reading, Budget& budget);
     void join(bool across);
 
+    bool in_rows_;
+    bool in_columns_;
     std::vector<Part> parts_;  // in the order of their readings once finished
     std::vector<Reading> readings_;
 };
