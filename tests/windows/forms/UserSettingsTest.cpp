@@ -91,7 +91,7 @@ TEST_F(UserSettings, AppliesWhatEveryPageHolds) {
     EXPECT_EQ(shared.settings().ZoomInterval, 17);
 }
 
-TEST_F(UserSettings, FitsOtherScalesAndSmallScreens) {
+TEST_F(UserSettings, FitsOtherScales) {
     const std::string before = file();
     hand.then([] {
         RECT place{0, 0, 1000, 700};

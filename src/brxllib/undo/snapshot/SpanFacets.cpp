@@ -40,17 +40,20 @@ void write_size(const Range& lines, const Reading& reading) {
     (lines.*put_size)(reading[0]);
 }
 
+// A size that all lines get shows those that are hidden among them: they are hidden once more in the end.
 constexpr auto rows = std::to_array<Facet>({
     {"Hidden", Place::Rows, read<&Range::Hidden>, write<&Range::Hidden>},
     {"RowHeight", Place::Rows, read_size<&Range::RowHeight, &Range::UseStandardHeight>,
      write_size<&Range::RowHeight, &Range::RowHeight, &Range::UseStandardHeight>},
     {"OutlineLevel", Place::Rows, read<&Range::OutlineLevel>, write<&Range::OutlineLevel>},
+    {"Hidden", Place::Rows, read<&Range::Hidden>, write<&Range::Hidden>},
 });
 constexpr auto columns = std::to_array<Facet>({
     {"Hidden", Place::Columns, read<&Range::Hidden>, write<&Range::Hidden>},
     {"ColumnWidth", Place::Columns, read_size<&Range::ColumnWidth, &Range::UseStandardWidth>,
      write_size<&Range::ColumnWidth, &Range::ColumnWidth, &Range::UseStandardWidth>},
     {"OutlineLevel", Place::Columns, read<&Range::OutlineLevel>, write<&Range::OutlineLevel>},
+    {"Hidden", Place::Columns, read<&Range::Hidden>, write<&Range::Hidden>},
 });
 
 }  // namespace
