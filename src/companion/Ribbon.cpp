@@ -8,6 +8,7 @@
 
 #include "automation/Caption.h"
 #include "brvblib/CommandTexts.h"
+#include "brvblib/xml/XmlText.h"
 
 namespace kestrune::companion {
 namespace {
@@ -16,29 +17,6 @@ using menus::MenuRow;
 
 // The tab's groups, as lines part the menu.
 constexpr auto group_labels = std::to_array<std::string_view>({"Commands", "Undo", "Settings", "Help"});
-
-std::string escaped(std::string_view text) {
-    std::string out;
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                out += "&amp;";
-                break;
-            case '<':
-                out += "&lt;";
-                break;
-            case '>':
-                out += "&gt;";
-                break;
-            case '"':
-                out += "&quot;";
-                break;
-            default:
-                out += c;
-        }
-    }
-    return out;
-}
 
 const brvblib::CommandText* command_of(std::string_view request) {
     std::size_t number = 0;
@@ -75,7 +53,7 @@ class Tab {
         if (row.level > 1 && row.line) out_ += fmt::format("<menuSeparator id=\"Kestrune.Line{}\"/>\n", at_);
         if (row.kind != MenuRow::Kind::Popup) return add_button(row);
         out_ += fmt::format("<menu id=\"Kestrune.Menu{}\" label=\"{}\">\n", at_,
-                            escaped(automation::plain_caption(row.caption)));
+                            brvblib::xml_attribute(automation::plain_caption(row.caption)));
         while (at_ < rows_.size() && rows_[at_].level > row.level) add_control();
         out_ += "</menu>\n";
     }
@@ -86,8 +64,8 @@ class Tab {
             row.caption.empty() && command ? std::string(command->name) : automation::plain_caption(row.caption);
         out_ +=
             fmt::format("<button id=\"Kestrune.Button{}\" label=\"{}\" tag=\"{}\" onAction=\"mDOM.RunRibbonButton\"",
-                        at_, escaped(label), row.request.empty() ? row.member : row.request);
-        if (command) out_ += fmt::format(" supertip=\"{}\"", escaped(command->description));
+                        at_, brvblib::xml_attribute(label), row.request.empty() ? row.member : row.request);
+        if (command) out_ += fmt::format(" supertip=\"{}\"", brvblib::xml_attribute(command->description));
         out_ += "/>\n";
     }
 

@@ -7,6 +7,7 @@
 #include <optional>
 #include <unordered_map>
 
+#include "brvblib/xml/XmlText.h"
 #include "cli/show/Appearance.h"
 #include "cli/show/Outline.h"
 #include "cli/show/PageStyle.h"
@@ -22,30 +23,12 @@ using formula::Position;
 constexpr std::int32_t most_rows = 2000;
 constexpr std::int32_t most_columns = 200;
 
+// A text in the page; its line breaks break lines.
 std::string escaped(std::string_view text) {
-    std::string out;
-    out.reserve(text.size());
-    for (const char c : text) {
-        switch (c) {
-            case '&':
-                out += "&amp;";
-                break;
-            case '<':
-                out += "&lt;";
-                break;
-            case '>':
-                out += "&gt;";
-                break;
-            case '"':
-                out += "&quot;";
-                break;
-            case '\n':
-                out += "<br>";
-                break;
-            default:
-                out += c;
-        }
-    }
+    constexpr std::string_view line_feed = "&#10;";
+    std::string out = brvblib::xml_attribute(text);
+    for (auto at = out.find(line_feed); at != std::string::npos; at = out.find(line_feed, at))
+        out.replace(at, line_feed.size(), "<br>");
     return out;
 }
 
@@ -261,7 +244,8 @@ class SheetPage {
         if (cell == brxllib::CellClass::Empty) return {};
         look.fill = look_of(cell).fill;
         const std::string formula = sheet_.formula_at(at);
-        return fmt::format(" title=\"{}{}{}\"", look_of(cell).name, formula.empty() ? "" : ": =", escaped(formula));
+        return fmt::format(" title=\"{}{}{}\"", look_of(cell).name,
+                           formula.empty() ? "" : ": =", brvblib::xml_attribute(formula));
     }
 
     void mark(OutlineMark mark, char direction) {
